@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <OVTE/designmanager.h>
+
+namespace TE {
+
+DesignManager::~DesignManager() = default;
+
+} // namespace TE

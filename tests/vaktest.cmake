@@ -1,0 +1,27 @@
+# SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+# SPDX-License-Identifier: Apache-2.0
+
+# vak_test(NAME SOURCES ... [LINK libs...] [MODULE] [FAKES]): a Qt Test program that ctest runs offscreen.
+#   MODULE  links the shipped plug-in library and the dialog driver.
+#   FAKES   puts the scripted doubles of IdeCore, OVTE, netcatcher and QUtility first, under the same SONAME.
+
+function(vak_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "MODULE;FAKES" "" "SOURCES;LINK")
+    add_executable(${name} ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin ENABLE_EXPORTS ON)
+    set(rpath "${CMAKE_BINARY_DIR}/lib;${CMAKE_BINARY_DIR}/plugins")
+    if(arg_FAKES)
+        list(PREPEND rpath "${CMAKE_BINARY_DIR}/tests/fakelib")
+        target_link_options(${name} PRIVATE -Wl,--no-as-needed)
+        target_link_libraries(${name} PRIVATE fake_IdeCore fake_OVTE fake_netcatcher fake_QUtility)
+    endif()
+    if(arg_MODULE)
+        target_link_libraries(${name} PRIVATE RtlVakIns VakUtils Device ExtSys test_support)
+    endif()
+    set_target_properties(${name} PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "${rpath}")
+    target_link_libraries(${name} PRIVATE ${arg_LINK} host_api Qt5::Test)
+    target_compile_definitions(${name} PRIVATE VAK_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()
