@@ -5,6 +5,13 @@
 
 namespace VAK {
 
+/// By name too, for code that knows the type by its name only.
+static void registerSignalItem()
+{
+    qRegisterMetaType<SignalItem>();
+}
+Q_CONSTRUCTOR_FUNCTION(registerSignalItem)
+
 bool ForeignXml::isEmpty() const
 {
     return attributes.isEmpty() && elements.isEmpty();
@@ -27,8 +34,8 @@ int SignalItem::inputCount() const
 
 bool operator==(const SignalItem &a, const SignalItem &b)
 {
-    return a.name == b.name && a.displayName == b.displayName && a.enabled == b.enabled && a.present == b.present
-           && a.kind == b.kind && a.active == b.active && a.foreign == b.foreign && a.members == b.members;
+    return a.name == b.name && a.displayName == b.displayName && a.enabled == b.enabled && a.present == b.present &&
+           a.kind == b.kind && a.active == b.active && a.foreign == b.foreign && a.members == b.members;
 }
 
 bool operator!=(const SignalItem &a, const SignalItem &b)
