@@ -72,4 +72,17 @@ expect FAIL checkforms "broken markup" forms/a.ui "${form/<\/ui>/}" "${listed[@]
 expect FAIL checkforms "a connection" forms/a.ui \
     "${form/ <class>A<\/class>/ <class>A<\/class>$'\n <connections>\n  <connection>\n   <sender>a<\/sender>\n  <\/connection>\n <\/connections>'}" "${listed[@]}"
 
+# A picture is as much of one as tells its width; bash keeps no zero bytes in a variable, so the width is large.
+icon_list=$'<RCC>\n<qresource prefix="/vakins/image">\n<file>a.png</file>\n<file>a@2x.png</file>\n</qresource>\n</RCC>\n'
+half=$(printf '0123456789abcdef\x01\x01\x01\x01')
+whole=$(printf '0123456789abcdef\x02\x02\x02\x02')
+drawn=(image/a.svg '<svg/>' image/a.png "$half" image/a@2x.png "$whole")
+expect PASS checkicons "a good icon" image/vakins.qrc "$icon_list" "${drawn[@]}" forms/a.ui ':/vakins/image/a.png'
+expect FAIL checkicons "a drawing that is not rendered" image/a.svg '<svg/>'
+expect FAIL checkicons "a double that is not twice as wide" image/vakins.qrc "$icon_list" "${drawn[@]}" image/a@2x.png "$half"
+expect FAIL checkicons "an icon that is not built in" "${drawn[@]}"
+expect FAIL checkicons "a picture without a drawing" image/a.png "$half"
+expect FAIL checkicons "a list that names what is not there" image/vakins.qrc "$icon_list"
+expect FAIL checkicons "a form that names no icon of ours" forms/a.ui '<x>:/vakins/image/b.png</x>'
+
 exit "$failed"
