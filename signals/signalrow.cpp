@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "signals/signalrow.h"
+
+#include <QBrush>
+#include <QFont>
+#include <QVariant>
+
+#include <algorithm>
+
+namespace RTLVAK {
+
+namespace private_impl {
+
+/// What a record gives for a role; an invalid value for the roles that it does not decide.
+static QVariant presentation(const VAK::SignalItem &record, int role)
+{
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+        return signalText(record);
+    case Qt::FontRole:
+        if (!record.displayName.isEmpty()) {
+            QFont font;
+            font.setItalic(true);
+            return font;
+        }
+        break;
+    default:
+        break;
+    }
+    return {};
+}
+
+static bool isPresentation(int role)
+{
+    return role == Qt::DisplayRole || role == Qt::ToolTipRole || role == Qt::FontRole;
+}
+
+/// Rows answer from the record that they hold instead of keeping a copy of each text: a search may list every net of a
+/// design.
+class SignalRow : public QTreeWidgetItem
+{
+public:
+    SignalRow(const VAK::SignalItem &signalRecord, int type)
+        : QTreeWidgetItem(type)
+        , record(signalRecord)
+    {
+    }
+
+    QVariant data(int column, int role) const override
+    {
+        if (column == 0 && role == Qt::UserRole)
+            return QVariant::fromValue(record);
+        return column == 0 && isPresentation(role) ? presentation(record, role) : QTreeWidgetItem::data(column, role);
+    }
+
+    void setData(int column, int role, const QVariant &value) override
+    {
+        if (column == 0 && role == Qt::UserRole && value.canConvert<VAK::SignalItem>())
+            updateSignalRow(this, value.value<VAK::SignalItem>());
+        else
+            QTreeWidgetItem::setData(column, role, value);
+    }
+
+    void setRecord(const VAK::SignalItem &newRecord);
+    void addMembers();
+
+    VAK::SignalItem record;
+};
+
+/// A member's state lives in the record of its row, at its own place among the members.
+class MemberRow : public QTreeWidgetItem
+{
+public:
+    MemberRow(SignalRow *signalRow, int position)
+        : QTreeWidgetItem(signalRow->type())
+        , owner(signalRow)
+        , index(position)
+    {
+    }
+
+    QVariant data(int column, int role) const override
+    {
+        if (column == 0 && isPresentation(role))
+            return presentation(owner->record.members.at(index), role);
+        return QTreeWidgetItem::data(column, role);
+    }
+
+    void refresh() { emitDataChanged(); }
+
+private:
+    const SignalRow *owner; ///< the parent row; members are never moved to another one
+    int index;
+};
+
+static void setUsable(QTreeWidgetItem *item, bool usable)
+{
+    const Qt::ItemFlags touched = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    // Nothing is ever dropped into a row, only between rows; without the flag the view draws the drop line there.
+    Qt::ItemFlags flags = item->flags() & ~Qt::ItemIsDropEnabled;
+    flags = usable ? flags | touched : flags & ~touched;
+    if (flags == item->flags())
+        return;
+    item->setFlags(flags);
+    if (!usable)
+        item->setForeground(0, QBrush(Qt::gray));
+    else if (item->data(0, Qt::ForegroundRole).isValid())
+        item->setData(0, Qt::ForegroundRole, QVariant());
+}
+
+void SignalRow::addMembers()
+{
+    QList<QTreeWidgetItem *> rows;
+    rows.reserve(record.members.size());
+    for (int i = 0; i < record.members.size(); ++i) {
+        rows.append(new MemberRow(this, i));
+        setUsable(rows.last(), record.members.at(i).enabled);
+    }
+    addChildren(rows);
+}
+
+void SignalRow::setRecord(const VAK::SignalItem &newRecord)
+{
+    const bool sameCount = newRecord.members.size() == childCount();
+    if (!sameCount)
+        qDeleteAll(takeChildren());
+    record = newRecord;
+    setUsable(this, record.enabled);
+    if (!sameCount)
+        addMembers();
+    emitDataChanged();
+    for (int i = 0; sameCount && i < childCount(); ++i) {
+        setUsable(child(i), record.members.at(i).enabled);
+        static_cast<MemberRow *>(child(i))->refresh();
+    }
+}
+
+static void setColour(QTreeWidgetItem *item, Qt::GlobalColor colour)
+{
+    const QBrush brush(colour);
+    if (item->foreground(0) != brush)
+        item->setForeground(0, brush);
+}
+
+static Qt::GlobalColor colourOf(const VAK::SignalItem &record, bool active)
+{
+    if (!active || !record.enabled)
+        return Qt::gray;
+    const bool missing = !record.present || std::any_of(record.members.cbegin(), record.members.cend(),
+                                                        [](const VAK::SignalItem &member) { return !member.present; });
+    return missing ? Qt::red : Qt::black;
+}
+
+} // namespace private_impl
+
+using private_impl::SignalRow;
+
+QString signalText(const VAK::SignalItem &record)
+{
+    return record.displayName.isEmpty() ? record.name : record.displayName;
+}
+
+QTreeWidgetItem *makeSignalRow(const VAK::SignalItem &record, int type)
+{
+    auto *row = new SignalRow(record, type);
+    private_impl::setUsable(row, record.enabled);
+    row->addMembers();
+    return row;
+}
+
+const VAK::SignalItem *recordOfRow(const QTreeWidgetItem *row)
+{
+    const auto *signalRow = dynamic_cast<const SignalRow *>(row);
+    return signalRow ? &signalRow->record : nullptr;
+}
+
+std::optional<VAK::SignalItem> signalOfRow(const QTreeWidgetItem *row)
+{
+    const QVariant carried = row ? row->data(0, Qt::UserRole) : QVariant();
+    if (!carried.canConvert<VAK::SignalItem>())
+        return std::nullopt;
+    return carried.value<VAK::SignalItem>();
+}
+
+void updateSignalRow(QTreeWidgetItem *row, const VAK::SignalItem &record)
+{
+    if (auto *signalRow = dynamic_cast<SignalRow *>(row))
+        signalRow->setRecord(record);
+}
+
+void colourSignalRow(QTreeWidgetItem *row)
+{
+    const VAK::SignalItem *record = recordOfRow(row);
+    if (!record)
+        return;
+    const bool active = record->active != 0;
+    const Qt::ItemFlags flags = active ? row->flags() | Qt::ItemIsDragEnabled : row->flags() & ~Qt::ItemIsDragEnabled;
+    if (flags != row->flags())
+        row->setFlags(flags);
+    private_impl::setColour(row, private_impl::colourOf(*record, active));
+    for (int i = 0; i < row->childCount(); ++i)
+        private_impl::setColour(row->child(i), private_impl::colourOf(record->members.at(i), active));
+}
+
+} // namespace RTLVAK
