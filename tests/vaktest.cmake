@@ -3,7 +3,8 @@
 
 # vak_test(NAME SOURCES ... [LINK libs...] [MODULE] [FAKES]): a Qt Test program that ctest runs offscreen.
 #   MODULE  links the shipped plug-in library and the dialog driver.
-#   FAKES   puts the scripted doubles of IdeCore, OVTE, netcatcher and QUtility first, under the same SONAME.
+#   FAKES   puts the scripted doubles of IdeCore, OVTE, netcatcher and QUtility first, under the same SONAME; the program
+#           asserts in initTestCase() that support::missingDoubles() is empty.
 
 function(vak_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "MODULE;FAKES" "" "SOURCES;LINK")
@@ -13,7 +14,7 @@ function(vak_test name)
     if(arg_FAKES)
         list(PREPEND rpath "${CMAKE_BINARY_DIR}/tests/fakelib")
         target_link_options(${name} PRIVATE -Wl,--no-as-needed)
-        target_link_libraries(${name} PRIVATE fake_IdeCore fake_OVTE fake_netcatcher fake_QUtility)
+        target_link_libraries(${name} PRIVATE fake_IdeCore fake_OVTE fake_netcatcher fake_QUtility test_support)
     endif()
     if(arg_MODULE)
         target_link_libraries(${name} PRIVATE RtlVakIns VakUtils Device ExtSys test_support)
