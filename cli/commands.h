@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QStringList>
+
+/// Lists the device catalogue.
+int runDevices(const QStringList &arguments);
