@@ -101,6 +101,16 @@ void DialogDriver::escapeBox()
     answers.push_back({Kind::Box, [](QWidget &window) { QTest::keyClick(&window, Qt::Key_Escape); }});
 }
 
+void DialogDriver::actOnBox(const std::function<void(QMessageBox &)> &act)
+{
+    answers.push_back({Kind::Box, [act](QWidget &window) { act(static_cast<QMessageBox &>(window)); }});
+}
+
+void DialogDriver::actOnMenu(const std::function<void(QMenu &)> &act)
+{
+    answers.push_back({Kind::Menu, [act](QWidget &window) { act(static_cast<QMenu &>(window)); }});
+}
+
 void DialogDriver::chooseFromMenu(const QString &text)
 {
     answers.push_back({Kind::Menu, [this, text](QWidget &window) { choose(static_cast<QMenu &>(window), text); }});

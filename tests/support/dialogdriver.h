@@ -63,6 +63,10 @@ public:
     void answerBox(QMessageBox::StandardButton button, const std::function<void(QMessageBox &)> &look = {});
     /// Presses Escape in the next box.
     void escapeBox();
+    /// Calls `act` with the next box (menu), which must close it: click, press a key, or delete the window that it
+    /// stands on.
+    void actOnBox(const std::function<void(QMessageBox &)> &act);
+    void actOnMenu(const std::function<void(QMenu &)> &act);
     /// Triggers the entry `text` of the next menu; ampersands count. An entry that opens a submenu takes a further
     /// answer.
     void chooseFromMenu(const QString &text);
