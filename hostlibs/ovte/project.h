@@ -5,11 +5,12 @@
 
 #include <OVTE/designtypes.h>
 
+#include <hostglobal.h>
+
+#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QStringList>
-
-#include <hostglobal.h>
 
 namespace TE {
 
@@ -22,9 +23,9 @@ struct HOST_EXPORT Project
     QString verilogStandard;  ///< one of verilogStandards()
     QString synthesisTool;    ///< one of synthesisTools()
     DeviceInfo device;
-    QList<DesignFile> files;           ///< in project order
-    QJsonObject foreign;               ///< what the project file holds beside this, kept for the tool that wrote it
-    QList<QJsonObject> foreignOfFiles; ///< the same for each file
+    QList<DesignFile> files; ///< in project order
+    QJsonObject foreign;     ///< what the project file holds beside this, kept for the tool that wrote it
+    QHash<QString, QJsonObject> foreignOfFiles; ///< the same for single files, by path
 
     Project();
 };
