@@ -50,7 +50,7 @@ static QString reasonOfNothingAdded(const QList<VAK::SignalItem> &asked, const Q
 
 VakSignalSelectDialog::VakSignalSelectDialog(NETCATCHER::RtlNetlist *rtlNetlist, QWidget *parent)
     : QDialog(parent)
-    , ui(std::make_unique<Ui::VakSignalSelectDialog>())
+    , ui(std::make_unique<::Ui::VakSignalSelectDialog>())
     , netlist(rtlNetlist)
 {
     ui->setupUi(this);

@@ -61,7 +61,7 @@ private:
     void addToChosen(const QList<VAK::SignalItem> &records);
     void showChosenCount();
 
-    std::unique_ptr<Ui::VakSignalSelectDialog> ui;
+    std::unique_ptr<::Ui::VakSignalSelectDialog> ui;
     NETCATCHER::RtlNetlist *netlist; ///< borrowed
 };
 

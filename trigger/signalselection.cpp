@@ -22,9 +22,7 @@ void showInsertedSignals(QTreeWidget *tree, int first, int count)
 {
     if (count == 0)
         return;
-    QList<QTreeWidgetItem *> rows;
-    for (int row = first; row < first + count; ++row)
-        rows.append(tree->topLevelItem(row));
+    const QList<QTreeWidgetItem *> rows = topLevelRows(tree, first, count);
     tree->setCurrentItem(rows.last());
     selectRows(tree, rows);
     tree->scrollToItem(rows.last());
