@@ -5,6 +5,8 @@
 
 #include "ui_messagedlg.h"
 
+#include <QPushButton>
+
 namespace RTLVAK {
 
 MessageDlg::MessageDlg(QWidget *parent)

@@ -42,9 +42,9 @@ void TestChangedBanner::formIsLaidOutAsFixed()
     QCOMPARE(layout.itemAt(2)->widget(), &child<QPushButton>(banner, "okBtn"));
     QCOMPARE(child<QLabel>(banner, "warningText").text(), QString("Netlist File has been changed."));
     QCOMPARE(child<QPushButton>(banner, "okBtn").text(), QString("OK"));
-    const QPixmap *icon = child<QLabel>(banner, "warningIcon").pixmap();
-    QVERIFY(icon && !icon->isNull());
-    QCOMPARE(icon->toImage(), QPixmap(":/fpgaprj/image/warning.png").toImage());
+    const QPixmap icon = child<QLabel>(banner, "warningIcon").pixmap(Qt::ReturnByValue);
+    QVERIFY(!icon.isNull());
+    QCOMPARE(icon.toImage(), QPixmap(":/fpgaprj/image/warning.png").toImage());
 }
 
 void TestChangedBanner::buttonIsLeftToTheView()

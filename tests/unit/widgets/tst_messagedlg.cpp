@@ -7,11 +7,12 @@
 #include "widgets/messagedlg.h"
 
 #include <QDialogButtonBox>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextEdit>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 using RTLVAK::MessageDlg;

@@ -8,6 +8,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
@@ -62,9 +63,9 @@ void TestReloadBanner::formIsLaidOutAsFixed()
     QCOMPARE(child<QWidget>(banner, "widget").layout(), &inner);
     QCOMPARE(inner.itemAt(0)->widget(), &child<QPushButton>(banner, "btnA"));
     QCOMPARE(inner.itemAt(1)->widget(), &child<QPushButton>(banner, "btnB"));
-    const QPixmap *icon = child<QLabel>(banner, "label").pixmap();
-    QVERIFY(icon && !icon->isNull());
-    QCOMPARE(icon->toImage(), QPixmap(":/utils/image/attention.png").toImage());
+    const QPixmap icon = child<QLabel>(banner, "label").pixmap(Qt::ReturnByValue);
+    QVERIFY(!icon.isNull());
+    QCOMPARE(icon.toImage(), QPixmap(":/utils/image/attention.png").toImage());
 }
 
 void TestReloadBanner::changedAsksWhetherToReload()
