@@ -69,8 +69,7 @@ module soc_top
     );
 
     uart #(
-        .DIVISOR(CLOCK_HZ / BAUD),
-        .FIFO_LG(4)
+        .DIVISOR(CLOCK_HZ / BAUD)
     ) u_uart (
         .clk      (clk),
         .rst      (rst),

@@ -6,7 +6,7 @@
 // A UART with a FIFO in each direction.
 module uart #(
     parameter DIVISOR = 312,
-    parameter FIFO_LG = 4
+    parameter FIFO_LG = `UART_FIFO_LG
 ) (
     input  wire        clk,
     input  wire        rst,
