@@ -4,9 +4,13 @@
 #include "hostlibs/ovte/projectfile.h"
 
 #include <OVTE/designtypes.h>
+#include <VakUtils/aocore.h>
+#include <VakUtils/aocorelite.h>
+#include <VakUtils/vakfile.h>
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 /// The example that comes with the program: what the README and the guide promise about it.
@@ -18,17 +22,19 @@ private slots:
     void projectIsInTheFormThatSavingGives();
     void everyFileOfTheFolderIsInTheProject();
     void onlyWhatIsForSimulationIsDisabled();
+    void standardFileIsInTheFormThatSavingGives();
+    void liteFileIsInTheFormThatSavingGives();
+    void everyCoreOfTheStandardFileHasACompleteTrigger();
 
 private:
-    static QByteArray contents(const QString &name);
     static TE::Project project();
 
     const QDir folder{VAK_EXAMPLES "/soc"};
 };
 
-QByteArray TestExample::contents(const QString &name)
+static QByteArray bytesOf(const QString &path)
 {
-    QFile file(QString(VAK_EXAMPLES "/soc/") + name);
+    QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -45,7 +51,7 @@ void TestExample::projectIsInTheFormThatSavingGives()
 {
     const QByteArray saved = TE::projectFileContents(project(), folder.path());
     QVERIFY(!saved.isEmpty());
-    QCOMPARE(saved, contents("soc.vakproj"));
+    QCOMPARE(saved, bytesOf(folder.filePath("soc.vakproj")));
 }
 
 static void collectFiles(const QDir &folder, QStringList *paths)
@@ -74,6 +80,54 @@ void TestExample::onlyWhatIsForSimulationIsDisabled()
 {
     for (const TE::DesignFile &file : project().files)
         QCOMPARE(file.enabled, !file.path.contains("/sim/"));
+}
+
+void TestExample::standardFileIsInTheFormThatSavingGives()
+{
+    const QString path = folder.filePath("standard.rvk");
+    QCOMPARE(VAK::vakModeFromVakConfigFile(path), VAK::VakMode::Standard);
+    QVERIFY(VAK::checkVAKStandardFile(path));
+    bool ok = false;
+    QString error;
+    const QList<VAK::AoCore *> cores = VAK::readVAKConfigFromXml(path, &ok, &error);
+    QVERIFY2(ok, qPrintable(error));
+    QCOMPARE(cores.size(), 2);
+
+    const QTemporaryDir temporary;
+    const QString copy = temporary.filePath("copy.rvk");
+    QVERIFY(VAK::writeVAKConfigToXml(cores, copy));
+    qDeleteAll(cores);
+    QCOMPARE(bytesOf(copy), bytesOf(path));
+}
+
+void TestExample::liteFileIsInTheFormThatSavingGives()
+{
+    const QString path = folder.filePath("lite.rvk");
+    QCOMPARE(VAK::vakModeFromVakConfigFile(path), VAK::VakMode::Lite);
+    QVERIFY(VAK::checkVAKLiteFile(path));
+    bool ok = false;
+    QString error;
+    const QList<VAK::AOCore_Lite *> cores = VAK::readVAKConfigFromXml_Lite(path, &ok, &error);
+    QVERIFY2(ok, qPrintable(error));
+    QCOMPARE(cores.size(), 1);
+
+    const QTemporaryDir temporary;
+    const QString copy = temporary.filePath("copy.rvk");
+    QVERIFY(VAK::writeVAKConfigToXml_Lite(cores, copy));
+    qDeleteAll(cores);
+    QCOMPARE(bytesOf(copy), bytesOf(path));
+}
+
+void TestExample::everyCoreOfTheStandardFileHasACompleteTrigger()
+{
+    const QList<VAK::AoCore *> cores = VAK::readVAKConfigFromXml(folder.filePath("standard.rvk"));
+    for (const VAK::AoCore *core : cores) {
+        QVERIFY(!core->availableTriggers().isEmpty());
+        QVERIFY(!core->enabledMatchUnits().isEmpty());
+        QVERIFY(!core->expressions().isEmpty());
+        QVERIFY(!core->getDataSignal().isEmpty());
+    }
+    qDeleteAll(cores);
 }
 
 QTEST_GUILESS_MAIN(TestExample)
