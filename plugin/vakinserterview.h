@@ -22,8 +22,8 @@ public:
 
     /// The absolute path of the file being edited.
     virtual QString file() const = 0;
-    /// Loads the file. On failure returns false and may put a text for the user into `*errorString`; an empty text means
-    /// that the view has already reported. `extra` is not used.
+    /// Loads the file. On failure returns false and may put a text for the user into `*errorString`; an empty text
+    /// means that the view has already reported. `extra` is not used.
     virtual bool open(const QString &fileName, const QString &extra, QString *errorString) = 0;
     /// Validates and writes the file; reports its own failures.
     virtual bool save() = 0;

@@ -40,6 +40,7 @@ private:
 struct Script
 {
     QList<fakes::ViewCall> calls;
+    std::function<void(Core::IView *)> showHandler;
     bool closeAnswer = true;
     std::function<bool(Core::IView *)> closeHandler;
     QPointer<QWidget> dialogParent;
@@ -106,6 +107,8 @@ ViewManager *ViewManager::instance()
 void ViewManager::showView(IView *view)
 {
     script().calls.append(widgetCall(fakes::ViewCall::ShowView, view));
+    if (script().showHandler)
+        script().showHandler(view);
 }
 
 bool ViewManager::closeView(IView *view)
@@ -166,6 +169,11 @@ int registrations(const QString &id, const QString &context)
     for (const auto &action : registered())
         count += action->id() == id && action->belongsTo(context);
     return count;
+}
+
+void onShowView(const std::function<void(Core::IView *)> &handler)
+{
+    script().showHandler = handler;
 }
 
 void setCloseAnswer(bool answer)

@@ -46,6 +46,8 @@ HOST_EXPORT QAction *registeredAction(const QString &id, const QString &context)
 /// How often an action was registered under `id` for `context` since the program began.
 HOST_EXPORT int registrations(const QString &id, const QString &context);
 
+/// Called at the end of showView().
+HOST_EXPORT void onShowView(const std::function<void(Core::IView *)> &handler);
 /// What closeView() answers; true until set. `handler`, when set, decides it for each view instead.
 HOST_EXPORT void setCloseAnswer(bool answer);
 HOST_EXPORT void onCloseView(const std::function<bool(Core::IView *)> &handler);

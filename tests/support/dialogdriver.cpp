@@ -87,8 +87,11 @@ void DialogDriver::answerBox(QMessageBox::StandardButton button, const std::func
 {
     answers.push_back({Kind::Box, [this, button, look](QWidget &window) {
                            auto &box = static_cast<QMessageBox &>(window);
+                           const QPointer<QMessageBox> guard(&box);
                            if (look)
                                look(box);
+                           if (!guard)
+                               return; // the test made the box's parent die
                            if (QAbstractButton *wanted = box.button(button))
                                wanted->click();
                            else

@@ -26,6 +26,7 @@ private slots:
     void unusedAnswerIsReported();
     void dialogLeftOpenIsReported();
     void missingButtonIsReported();
+    void boxMayDieWithItsParent();
     void menuEntryIsTriggered();
     void submenuTakesAFurtherAnswer();
     void menuIsDismissed();
@@ -133,6 +134,17 @@ void TestDialogDriver::missingButtonIsReported()
     driver.answerBox(QMessageBox::Yes);
     QMessageBox::information(nullptr, "a", "b");
     QVERIFY(driver.failures().value(0).startsWith("the box has no such button"));
+}
+
+void TestDialogDriver::boxMayDieWithItsParent()
+{
+    DialogDriver driver;
+    auto *parent = new QWidget;
+    driver.answerBox(QMessageBox::Ok, [parent](QMessageBox &) { delete parent; });
+    const QPointer<QMessageBox> box = new QMessageBox(QMessageBox::Information, "a", "b", QMessageBox::Ok, parent);
+    box->exec();
+    QVERIFY(!box);
+    QVERIFY(driver.finish());
 }
 
 void TestDialogDriver::menuEntryIsTriggered()
