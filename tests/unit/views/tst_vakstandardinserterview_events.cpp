@@ -1,0 +1,345 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "viewfixture.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace RTLVAK;
+using namespace support;
+
+/// The Standard view and the events of the project.
+class TestStandardViewEvents : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void everyStaleDesignAsksOnce_data();
+    void everyStaleDesignAsksOnce();
+    void otherEventsShowNothing_data();
+    void otherEventsShowNothing();
+    void anUnrelatedOptionShowsNothing();
+    void theBannerOffersReloadAndCancel();
+    void topModuleHasItsOwnQuestion();
+    void whileAQuestionIsOpenEveryEventIsIgnored();
+    void unsubscribedViewHearsNothing();
+
+    void reloadReadsTheNetlistAnew();
+    void reloadKeepsUnsavedEdits();
+    void afterReloadTheNextEventAsksAgain();
+    void aFailedReloadClosesTheContainerWithoutAQuestion();
+    void aFailedReloadOfAnUnmodifiedViewEmitsNothing();
+    void aFailedReloadWithoutContainerStaysOpen();
+    void cancelKeepsTheOldNetlist();
+    void afterCancelTheNextEventAsksAgain();
+    void viewMayDieInAFailedReload();
+
+    void eachSlotRemovesOnlyItsOwnBanner();
+    void cancellingTheFileBannerAlsoClearsTheDesignFlag();
+    void aFileQuestionAndADesignQuestionAreShownTogether();
+    void slotsToleratedWithoutABanner();
+    void theBannerContainerStaysShown();
+};
+
+void TestStandardViewEvents::initTestCase()
+{
+    QCOMPARE(missingDoubles(), QString());
+}
+
+static const QString FilesQuestion = QStringLiteral("Design files changed. Do you want to reload?");
+static const QString TopQuestion = QStringLiteral("Top module changed. Do you want to reload?");
+
+void TestStandardViewEvents::everyStaleDesignAsksOnce_data()
+{
+    QTest::addColumn<QString>("event");
+    QTest::addColumn<QVariantMap>("values");
+    QTest::newRow("file added") << "TE.File.Add" << QVariantMap{{"file", "/design/source.v"}};
+    QTest::newRow("file modified") << "TE.File.Modified" << QVariantMap{{"file", "/design/source.v"}};
+    QTest::newRow("file removed") << "TE.File.Remove" << QVariantMap{{"type", 3}, {"enable", true}};
+    QTest::newRow("file disabled") << "TE.File.Change.Enable" << QVariantMap{{"type", 4}, {"enable", false}};
+    QTest::newRow("file retyped") << "TE.File.Change.Type" << QVariantMap{{"type", 9}, {"previous", 2}};
+    QTest::newRow("include path") << "TE.Option.Change" << QVariantMap{{"option", "IncludePath"}};
+    QTest::newRow("standard") << "TE.Option.Change" << QVariantMap{{"option", "Verilog_Standard"}};
+}
+
+void TestStandardViewEvents::everyStaleDesignAsksOnce()
+{
+    QFETCH(QString, event);
+    QFETCH(QVariantMap, values);
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::setFileInfo("/design/source.v", 2, true);
+    fakes::publish(event, values);
+    QCOMPARE(fixture.bannerTexts(), QStringList{FilesQuestion});
+    fakes::publish(event, values);
+    QCOMPARE(fixture.bannerTexts(), QStringList{FilesQuestion});
+}
+
+void TestStandardViewEvents::otherEventsShowNothing_data()
+{
+    QTest::addColumn<QString>("event");
+    QTest::addColumn<QVariantMap>("values");
+    QTest::newRow("disabled source added") << "TE.File.Add" << QVariantMap{{"file", "/design/disabled.v"}};
+    QTest::newRow("text added") << "TE.File.Add" << QVariantMap{{"file", "/design/readme.txt"}};
+    QTest::newRow("unknown file modified") << "TE.File.Modified" << QVariantMap{{"file", "/elsewhere/x.v"}};
+    QTest::newRow("disabled source removed") << "TE.File.Remove" << QVariantMap{{"type", 2}, {"enable", false}};
+    QTest::newRow("text enabled") << "TE.File.Change.Enable" << QVariantMap{{"type", 0}, {"enable", true}};
+    QTest::newRow("between other types") << "TE.File.Change.Type" << QVariantMap{{"type", 5}, {"previous", 6}};
+    QTest::newRow("device") << "TE.Device.Change" << QVariantMap();
+}
+
+void TestStandardViewEvents::otherEventsShowNothing()
+{
+    QFETCH(QString, event);
+    QFETCH(QVariantMap, values);
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::setFileInfo("/design/disabled.v", 2, false);
+    fakes::setFileInfo("/design/readme.txt", 0, true);
+    fakes::publish(event, values);
+    QCOMPARE(fixture.bannerTexts(), QStringList());
+    QVERIFY(child<QWidget>(fixture.view(), "widget_3").isHidden());
+}
+
+void TestStandardViewEvents::anUnrelatedOptionShowsNothing()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "Synthesize_tool"}});
+    QCOMPARE(fixture.bannerTexts(), QStringList());
+}
+
+void TestStandardViewEvents::theBannerOffersReloadAndCancel()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    QVERIFY(child<QWidget>(fixture.view(), "widget_3").isVisible());
+    ReloadBanner *banner = fixture.banners().at(0);
+    QVERIFY(banner->isVisible());
+    QCOMPARE(child<QPushButton>(*banner, "btnA").text(), QString("Reload"));
+    QCOMPARE(child<QPushButton>(*banner, "btnB").text(), QString("Cancel"));
+    QCOMPARE(fixture.driver.shownCount(), 0);
+}
+
+void TestStandardViewEvents::topModuleHasItsOwnQuestion()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "TopModule"}});
+    QCOMPARE(fixture.bannerTexts(), QStringList{TopQuestion});
+}
+
+void TestStandardViewEvents::whileAQuestionIsOpenEveryEventIsIgnored()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "TopModule"}});
+    fakes::setFileInfo("/design/source.v", 2, true);
+    fakes::publish("TE.File.Modified", {{"file", "/design/source.v"}});
+    QCOMPARE(fixture.bannerTexts(), QStringList{TopQuestion});
+    QCOMPARE(fakes::fileInfosAsked(), QStringList());
+}
+
+void TestStandardViewEvents::unsubscribedViewHearsNothing()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fixture.view().unsubscribeEvent();
+    fakes::publish("TE.Option.Change", {{"option", "TopModule"}});
+    QCOMPARE(fixture.bannerTexts(), QStringList());
+    fixture.view().subscribeEvent();
+    fakes::publish("TE.Option.Change", {{"option", "TopModule"}});
+    QCOMPARE(fixture.bannerTexts(), QStringList{TopQuestion});
+}
+
+void TestStandardViewEvents::reloadReadsTheNetlistAnew()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::Instance changed("soc");
+    changed.net("clk").net("new_clk");
+    fakes::setDesign(changed);
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    const QPointer<ReloadBanner> banner = fixture.banners().at(0);
+    fixture.clickBanner(0, "btnA");
+    QCOMPARE(fakes::netsCalls().size(), 2);
+    QCOMPARE(fixture.banners().size(), 0);
+    QVERIFY(banner->isHidden());
+    runDeferredDeletes();
+    QVERIFY(!banner);
+    auto &captured = child<QTreeWidget>(fixture.page(0), "treeWidgetCapSigs");
+    QCOMPARE(captured.topLevelItem(0)->foreground(0).color(), QColor(Qt::red));
+    fixture.editClock(0, "new_clk");
+    QVERIFY(fixture.view().save());
+}
+
+void TestStandardViewEvents::reloadKeepsUnsavedEdits()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fixture.editClock(0, "clk2");
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    fixture.clickBanner(0, "btnA");
+    QCOMPARE(fixture.clockShown(0), QString("clk2"));
+    QVERIFY(fixture.view().isModified());
+    fixture.view().setModified(false);
+}
+
+void TestStandardViewEvents::afterReloadTheNextEventAsksAgain()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    fixture.clickBanner(0, "btnA");
+    fakes::publish("TE.Option.Change", {{"option", "TopModule"}});
+    QCOMPARE(fixture.bannerTexts(), QStringList{TopQuestion});
+}
+
+void TestStandardViewEvents::aFailedReloadClosesTheContainerWithoutAQuestion()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fixture.editClock(0, "clk2");
+    QSignalSpy spy(&fixture.view(), &VakInserterView::modificationStatusChanged);
+    fakes::publish("TE.Option.Change", {{"option", "TopModule"}});
+    fakes::setTop("nothing");
+    fakes::setModules({}, {});
+    fixture.driver.answerBox(QMessageBox::Ok);
+    fixture.clickBanner(0, "btnA");
+    QCOMPARE(fixture.driver.boxes().size(), 1);
+    QCOMPARE(fixture.driver.boxes().first().title, QString("Invalid Top Module"));
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(spy.at(0).at(0).toBool(), false);
+    QVERIFY(fixture.container().isHidden());
+    runDeferredDeletes();
+    QVERIFY(!fixture.containerLives());
+    QVERIFY(!fixture.viewLives());
+}
+
+void TestStandardViewEvents::aFailedReloadOfAnUnmodifiedViewEmitsNothing()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    QSignalSpy spy(&fixture.view(), &VakInserterView::modificationStatusChanged);
+    fakes::publish("TE.Option.Change", {{"option", "TopModule"}});
+    fakes::deliverNull();
+    fixture.clickBanner(0, "btnA");
+    QCOMPARE(spy.size(), 0);
+    QCOMPARE(fixture.driver.shownCount(), 0);
+    QVERIFY(fixture.container().isHidden());
+}
+
+void TestStandardViewEvents::aFailedReloadWithoutContainerStaysOpen()
+{
+    ViewFixture fixture; // for the doubles
+    VakStandardInserterView view;
+    const QString path = writeStandardFile(fixture.dir, "a.rvk", 1);
+    QString error;
+    QVERIFY(view.open(path, {}, &error));
+    view.show();
+    fakes::deliverNull();
+    view.onRtlReload();
+    QVERIFY(view.isVisible());
+    QVERIFY(!view.testAttribute(Qt::WA_DeleteOnClose));
+}
+
+void TestStandardViewEvents::cancelKeepsTheOldNetlist()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    const QPointer<ReloadBanner> banner = fixture.banners().at(0);
+    fixture.clickBanner(0, "btnB");
+    QCOMPARE(fixture.banners().size(), 0);
+    runDeferredDeletes();
+    QVERIFY(!banner);
+    QCOMPARE(fakes::netsCalls().size(), 1);
+    QVERIFY(fixture.view().save());
+}
+
+void TestStandardViewEvents::afterCancelTheNextEventAsksAgain()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    fixture.clickBanner(0, "btnB");
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    QCOMPARE(fixture.bannerTexts(), QStringList{FilesQuestion});
+}
+
+void TestStandardViewEvents::viewMayDieInAFailedReload()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fixture.editClock(0, "clk2");
+    fakes::setModules({}, {});
+    fixture.driver.actOnBox([&fixture](QMessageBox &) { fixture.kill(); });
+    fixture.view().onRtlReload();
+    QVERIFY(!fixture.viewLives());
+}
+
+void TestStandardViewEvents::eachSlotRemovesOnlyItsOwnBanner()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fixture.view().checkForReload();
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    QCOMPARE(fixture.banners().size(), 2);
+    fixture.clickBanner(1, "btnB");
+    QCOMPARE(fixture.banners().size(), 1);
+    QVERIFY(fixture.bannerTexts().first().contains("changed on disk"));
+}
+
+void TestStandardViewEvents::cancellingTheFileBannerAlsoClearsTheDesignFlag()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fixture.view().checkForReload();
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    fixture.clickBanner(0, "btnB");
+    QCOMPARE(fixture.bannerTexts(), QStringList{FilesQuestion});
+    fakes::publish("TE.Option.Change", {{"option", "TopModule"}});
+    QCOMPARE(fixture.bannerTexts(), QStringList({FilesQuestion, TopQuestion}));
+}
+
+void TestStandardViewEvents::aFileQuestionAndADesignQuestionAreShownTogether()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    changeClockOnDisk(fixture.path, "clk2");
+    QTRY_COMPARE(fixture.banners().size(), 2);
+    for (ReloadBanner *banner : fixture.banners())
+        QVERIFY(banner->isVisible());
+}
+
+void TestStandardViewEvents::slotsToleratedWithoutABanner()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    fixture.view().onReloadCancel();
+    fixture.view().onBannerCancel();
+    fixture.view().onBannerKeep();
+    fixture.view().onBannerReload();
+    QCOMPARE(fixture.banners().size(), 1);
+    QCOMPARE(fixture.items(), QStringList{"Core 0"});
+}
+
+void TestStandardViewEvents::theBannerContainerStaysShown()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::publish("TE.Option.Change", {{"option", "IncludePath"}});
+    fixture.clickBanner(0, "btnB");
+    QVERIFY(child<QWidget>(fixture.view(), "widget_3").isVisible());
+}
+
+QTEST_MAIN(TestStandardViewEvents)
+#include "tst_vakstandardinserterview_events.moc"
