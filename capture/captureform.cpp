@@ -6,14 +6,19 @@
 #include "rules/implementationlist.h"
 #include "rules/sizechoices.h"
 #include "rules/usageestimate.h"
+#include "signals/vaksignalselectdialog.h"
 
 #include <OVTE/designmanager.h>
 #include <OVTE/taskengine.h>
+#include <VakUtils/aocore.h>
 #include <VakUtils/vaktool.h>
 
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QRadioButton>
 
 namespace RTLVAK {
 
@@ -26,6 +31,22 @@ bool currentDeviceHasShadowRam()
 {
     const TE::DeviceInfo device = currentDevice();
     return VAK_TOOL::currentDeviceSsramAmount(device.name, device.package) != 0;
+}
+
+void showSampleClock(QLineEdit *clock, QRadioButton *rising, QRadioButton *falling, const QString &name, int edge)
+{
+    clock->setText(name);
+    (edge == VAK::RisingEdge ? rising : falling)->setChecked(true);
+}
+
+bool chooseSampleClock(QLineEdit *clock, NETCATCHER::RtlNetlist *netlist, QWidget *page)
+{
+    const QPointer<QWidget> alive(page);
+    const QString name = VakSignalSelectDialog::getSignalName(netlist, page);
+    if (!alive || name.isEmpty())
+        return false;
+    clock->setText(name);
+    return true;
 }
 
 void appendNumbers(QComboBox *combo, const QList<int> &numbers)
@@ -76,6 +97,11 @@ void showUsage(QLabel *title, QLabel *value, const CaptureUsage &usage)
     if (!usage.title.isEmpty())
         title->setText(usage.title);
     value->setText(captureUsageText(usage.need, usage.available));
+}
+
+void deleteChildWidgets(QWidget *page)
+{
+    qDeleteAll(page->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly));
 }
 
 } // namespace RTLVAK

@@ -7,7 +7,13 @@
 
 class QComboBox;
 class QLabel;
+class QLineEdit;
+class QRadioButton;
+class QWidget;
 
+namespace NETCATCHER {
+class RtlNetlist;
+}
 namespace TE {
 struct DeviceInfo;
 }
@@ -23,6 +29,12 @@ TE::DeviceInfo currentDevice();
 /// Whether it has shadow RAM.
 bool currentDeviceHasShadowRam();
 
+/// Shows a core's sample clock and edge (a VAK::SampleEdge value).
+void showSampleClock(QLineEdit *clock, QRadioButton *rising, QRadioButton *falling, const QString &name, int edge);
+/// Lets the user choose the clock from the netlist, in a dialog over `page`. False when nothing was chosen, or when the
+/// page did not outlive the dialog.
+bool chooseSampleClock(QLineEdit *clock, NETCATCHER::RtlNetlist *netlist, QWidget *page);
+
 /// Appends an entry per number, text and user data alike.
 void appendNumbers(QComboBox *combo, const QList<int> &numbers);
 /// Selects the entry with this text, else the last one.
@@ -37,5 +49,9 @@ int shownNumber(const QComboBox *combo);
 void offerImplementations(QComboBox *combo, const QStringList &offered);
 /// Shows a usage; an empty title leaves the one that is there.
 void showUsage(QLabel *title, QLabel *value, const CaptureUsage &usage);
+
+/// Deletes what a page shows. For its destructor: children still tell the page's slots what goes away, so they go
+/// first.
+void deleteChildWidgets(QWidget *page);
 
 } // namespace RTLVAK

@@ -54,16 +54,12 @@ CaptureOptionWidget::CaptureOptionWidget(VAK::AoCore *coreToEdit, NETCATCHER::Rt
 
 CaptureOptionWidget::~CaptureOptionWidget()
 {
-    // The children still tell their slots what goes away, so they go first.
-    qDeleteAll(findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly));
+    deleteChildWidgets(this);
 }
 
 void CaptureOptionWidget::setUpForm()
 {
-    ui->treeWidgetCapSigs->setStyleSheet(QStringLiteral("QTreeWidget::item { height: 20px;}"));
-    ui->treeWidgetCapSigs->setTextElideMode(Qt::ElideMiddle);
-    ui->treeWidgetCapSigs->setMenuEnabled(true);
-    ui->btnRemove->setEnabled(false);
+    setUpCaptureTree(ui->treeWidgetCapSigs, ui->btnRemove);
     // The list of segments has thousands of entries; neither the list nor the box may look at each of them.
     ui->comboWindowNum->setModel(new private_impl::NumberRangeModel(ui->comboWindowNum));
     ui->comboWindowNum->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -103,9 +99,8 @@ void CaptureOptionWidget::connectRelays()
 
 void CaptureOptionWidget::loadCore()
 {
-    ui->editSampleClock->setText(core->sampleClock());
-    const bool rising = core->sampleEdge() == VAK::RisingEdge;
-    (rising ? ui->radioButtonRising : ui->radioButtonFalling)->setChecked(true);
+    showSampleClock(ui->editSampleClock, ui->radioButtonRising, ui->radioButtonFalling, core->sampleClock(),
+                    core->sampleEdge());
     loadSizes();
     ui->chkBoxForceTrigFalling->setChecked(core->forceTriggerByFallingEdge());
     ui->chkBoxCaptureInitial->setChecked(core->captureInitialData());
@@ -228,10 +223,7 @@ void CaptureOptionWidget::onImplChanged()
 
 void CaptureOptionWidget::onSelectClock()
 {
-    const QPointer<CaptureOptionWidget> self(this);
-    const QString name = VakSignalSelectDialog::getSignalName(netlist, this);
-    if (self && !name.isEmpty())
-        ui->editSampleClock->setText(name);
+    chooseSampleClock(ui->editSampleClock, netlist, this);
 }
 
 void CaptureOptionWidget::onAddDataSignals()

@@ -9,7 +9,17 @@
 #include "signals/treerows.h"
 #include "trigger/signalselection.h"
 
+#include <QPushButton>
+
 namespace RTLVAK {
+
+void setUpCaptureTree(signalTreeWidget *tree, QPushButton *remove)
+{
+    tree->setStyleSheet(QStringLiteral("QTreeWidget::item { height: 20px;}"));
+    tree->setTextElideMode(Qt::ElideMiddle);
+    tree->setMenuEnabled(true);
+    remove->setEnabled(false);
+}
 
 void showCaptureSignals(signalTreeWidget *tree, const QList<VAK::SignalItem> &signalItems)
 {

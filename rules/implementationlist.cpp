@@ -48,6 +48,22 @@ int implementationCode(const QString &name)
     return VAK::BsramImplementation;
 }
 
+int liteImplementationCode(const QString &name)
+{
+    if (name == bsram())
+        return VAK::BsramImplementation;
+    return name == ssram() ? VAK::SsramImplementation : VAK::RegImplementation;
+}
+
+std::optional<bool> inputRegisterFor(const QString &implementation)
+{
+    if (implementation == bsram())
+        return true;
+    if (implementation == reg() || implementation == ssram())
+        return false;
+    return std::nullopt;
+}
+
 qint64 standardCaptureBits(int width, int depth)
 {
     return (qint64(width) + 1) * depth;

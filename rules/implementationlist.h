@@ -5,12 +5,19 @@
 
 #include <QStringList>
 
+#include <optional>
+
 namespace RTLVAK {
 
 /// The text that editors show for a stored implementation code; empty for a code that none has.
 QString implementationName(int code);
 /// The code to store for a shown text; every text that is neither "SSRAM" nor "REG" counts as block RAM.
 int implementationCode(const QString &name);
+/// The same for a Lite core, where every text that is neither "BSRAM" nor "SSRAM" counts as registers.
+int liteImplementationCode(const QString &name);
+/// Whether a Lite core that captures initial data needs its input register with the implementation shown; nothing for a
+/// text that is no implementation.
+std::optional<bool> inputRegisterFor(const QString &implementation);
 
 /// The bits that a Standard capture needs in registers or shadow RAM: one trigger mark is stored beside each sample.
 qint64 standardCaptureBits(int width, int depth);
