@@ -3,15 +3,21 @@
 
 #include "plugin/vakinserterplugin.h"
 
+#include "plugin/vakviewmanager.h"
+
 namespace RTLVAK {
 
 bool VakInserterPlugin::initialize()
 {
+    VakViewManager::instance()->initialize();
     return true;
 }
 
 void VakInserterPlugin::allPluginsReady() {}
 
-void VakInserterPlugin::shutdown() {}
+void VakInserterPlugin::shutdown()
+{
+    VakViewManager::instance()->deinit();
+}
 
 } // namespace RTLVAK
