@@ -11,6 +11,11 @@
 #include <QLoggingCategory>
 #include <QSaveFile>
 
+#include <cerrno>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
 Q_LOGGING_CATEGORY(fileLog, "rtlvak.file")
 
 namespace VAK {
@@ -35,10 +40,31 @@ QByteArray loadFile(const QString &path, FileError *error)
     return error->isSet() ? QByteArray() : data;
 }
 
+/// Gives the temporary the owner and the permissions of the file that it will replace. The toolkit's own way would let
+/// everything be writable that root can write.
+static void takeAttributes(const QString &path, int temporary)
+{
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return;
+    if (fchown(temporary, status.st_uid, status.st_gid) != 0)
+        qCDebug(fileLog) << "the owner of" << path << "cannot be kept";
+    fchmod(temporary, status.st_mode & 07777);
+}
+
+static bool isOnDisk(int temporary)
+{
+    return fsync(temporary) == 0 || errno == EINVAL; // file systems without such a thing
+}
+
 bool replaceFile(const QString &path, const QByteArray &data)
 {
     QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit();
+    bool written = file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush();
+    if (written) {
+        takeAttributes(path, file.handle());
+        written = isOnDisk(file.handle()) && file.commit();
+    }
     if (!written)
         qCWarning(fileLog).noquote() << path << file.errorString();
     return written;

@@ -6,14 +6,41 @@
 #include "filewords.h"
 #include "xmltext.h"
 
+#include <QTextCodec>
+
 #include <cctype>
 
 namespace VAK {
+
+/// Where `data` is no UTF-8: the parser itself would name the place up to which it has read the file.
+static FileError encodingError(const QByteArray &data)
+{
+    static QTextCodec *const utf8 = QTextCodec::codecForName("UTF-8");
+    FileError error;
+    QTextCodec::ConverterState whole;
+    utf8->toUnicode(data.constData(), data.size(), &whole);
+    if (whole.invalidChars == 0 && whole.remainingChars == 0)
+        return error;
+    const QList<QByteArray> lines = data.split('\n');
+    for (const QByteArray &line : lines) {
+        ++error.line;
+        QTextCodec::ConverterState state;
+        const QString text = utf8->toUnicode(line.constData(), line.size(), &state);
+        if (state.invalidChars > 0 || state.remainingChars > 0) {
+            const int broken = text.indexOf(QChar::ReplacementCharacter);
+            error.column = (broken < 0 ? text.size() : broken) + 1;
+            break;
+        }
+    }
+    error.message = QStringLiteral("found bytes that are no UTF-8, expected UTF-8");
+    return error;
+}
 
 XmlCursor::XmlCursor(const QByteArray &data, Checks checks)
     : m_data(data)
     , m_xml(data)
     , m_checks(checks)
+    , m_error(encodingError(data))
 {
     m_xml.setNamespaceProcessing(false); // prefixes of foreign content stay as they are
 }
@@ -22,6 +49,8 @@ QXmlStreamReader::TokenType XmlCursor::advance()
 {
     m_line = int(m_xml.lineNumber());
     m_column = int(m_xml.columnNumber()) + 1;
+    if (m_xml.tokenType() == QXmlStreamReader::Characters)
+        --m_column; // text ends when the parser has taken the next '<'
     const QXmlStreamReader::TokenType token = m_xml.readNext();
     if (token == QXmlStreamReader::StartElement && ++m_depth > FileWords::MaxDepth) {
         failStructure(m_line, m_column, QStringLiteral("an element at depth %1").arg(m_depth),
