@@ -35,6 +35,8 @@ bool currentDeviceHasShadowRam()
 
 void showSampleClock(QLineEdit *clock, QRadioButton *rising, QRadioButton *falling, const QString &name, int edge)
 {
+    QObject::connect(clock, &QLineEdit::textChanged, clock,
+                     &QWidget::setToolTip); // the name may be longer than the field
     clock->setText(name);
     (edge == VAK::RisingEdge ? rising : falling)->setChecked(true);
 }
