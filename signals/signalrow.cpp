@@ -5,6 +5,7 @@
 
 #include <QBrush>
 #include <QFont>
+#include <QHash>
 #include <QVariant>
 
 #include <algorithm>
@@ -123,15 +124,18 @@ void SignalRow::addMembers()
 
 void SignalRow::setRecord(const VAK::SignalItem &newRecord)
 {
+    const VAK::SignalItem old = record;
     const bool sameCount = newRecord.members.size() == childCount();
     if (!sameCount)
         qDeleteAll(takeChildren());
     record = newRecord;
     setUsable(this, record.enabled);
-    if (!sameCount)
-        addMembers();
     emitDataChanged();
-    for (int i = 0; sameCount && i < childCount(); ++i) {
+    if (!sameCount)
+        return addMembers();
+    for (int i = 0; i < childCount(); ++i) {
+        if (old.members.at(i) == record.members.at(i))
+            continue;
         setUsable(child(i), record.members.at(i).enabled);
         static_cast<MemberRow *>(child(i))->refresh();
     }
@@ -188,6 +192,26 @@ void updateSignalRow(QTreeWidgetItem *row, const VAK::SignalItem &record)
 {
     if (auto *signalRow = dynamic_cast<SignalRow *>(row))
         signalRow->setRecord(record);
+}
+
+void changeSignals(const QList<QTreeWidgetItem *> &rows, const SignalChange &change)
+{
+    QHash<QTreeWidgetItem *, VAK::SignalItem> changed; // a bus may have thousands of selected bits: one update for all
+    for (QTreeWidgetItem *row : rows) {
+        QTreeWidgetItem *const top = recordOfRow(row) ? row : row->parent();
+        const VAK::SignalItem *current = recordOfRow(top);
+        if (!current)
+            continue;
+        if (!changed.contains(top))
+            changed.insert(top, *current);
+        VAK::SignalItem &record = changed[top];
+        VAK::SignalItem &part = top == row ? record : record.members[top->indexOfChild(row)];
+        part = change(part);
+    }
+    for (auto it = changed.cbegin(); it != changed.cend(); ++it) {
+        updateSignalRow(it.key(), it.value());
+        colourSignalRow(it.key());
+    }
 }
 
 void colourSignalRow(QTreeWidgetItem *row)

@@ -7,8 +7,10 @@
 
 #include <VakUtils/signalitem.h>
 
+#include <QList>
 #include <QTreeWidgetItem>
 
+#include <functional>
 #include <optional>
 
 namespace RTLVAK {
@@ -29,6 +31,11 @@ VAKINS_EXPORT std::optional<VAK::SignalItem> signalOfRow(const QTreeWidgetItem *
 
 /// Gives a row of makeSignalRow() another record, in place: selection, current row and expansion stay.
 VAKINS_EXPORT void updateSignalRow(QTreeWidgetItem *row, const VAK::SignalItem &record);
+
+using SignalChange = std::function<VAK::SignalItem(const VAK::SignalItem &)>;
+
+/// Changes the records of rows of makeSignalRow(), of members the part of their row's record, and colours the rows.
+VAKINS_EXPORT void changeSignals(const QList<QTreeWidgetItem *> &rows, const SignalChange &change);
 
 /// The colours of one row by its record: grey when inactive or unusable, red when missing from the netlist, else black;
 /// an inactive row cannot be dragged. Writes only what differs.
