@@ -197,14 +197,14 @@ using Cores = std::vector<std::unique_ptr<Core>>;
 template <class Core>
 static void readCoreElement(XmlCursor *cursor, XmlElement &element, SignalReader *signalReader, Cores<Core> *cores)
 {
+    if (cores->size() >= MaxCores) {
+        cursor->failValue(element.line(), element.column(), QStringLiteral("core number %1").arg(MaxCores + 1),
+                          QStringLiteral("at most %1").arg(MaxCores));
+    }
     auto core = std::make_unique<Core>(int(cores->size()));
     CoreReader(cursor, signalReader).read(element, core.get());
-    if (cores->size() < MaxCores) {
+    if (cores->size() < MaxCores)
         cores->push_back(std::move(core));
-        return;
-    }
-    cursor->failValue(element.line(), element.column(), QStringLiteral("core number %1").arg(MaxCores + 1),
-                      QStringLiteral("at most %1").arg(MaxCores));
 }
 
 template <class Core>
