@@ -1,13 +1,14 @@
 # SPDX-FileCopyrightText: 2026 The RtlVakIns authors
 # SPDX-License-Identifier: Apache-2.0
 
-# vak_test(NAME SOURCES ... [LINK libs...] [MODULE] [FAKES]): a Qt Test program that ctest runs offscreen.
+# vak_test(NAME SOURCES ... [LINK libs...] [MODULE] [FAKES] [XVFB]): a Qt Test program that ctest runs offscreen.
 #   MODULE  links the shipped plug-in library and the dialog driver.
 #   FAKES   puts the scripted doubles of IdeCore, OVTE, netcatcher and QUtility first, under the same SONAME; the program
 #           asserts in initTestCase() that support::missingDoubles() is empty.
+#   XVFB    runs it on an X server of its own instead; without xvfb-run the test fails.
 
 function(vak_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "MODULE;FAKES" "" "SOURCES;LINK")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "MODULE;FAKES;XVFB" "" "SOURCES;LINK")
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin ENABLE_EXPORTS ON)
     set(rpath "${CMAKE_BINARY_DIR}/lib;${CMAKE_BINARY_DIR}/plugins")
@@ -22,7 +23,13 @@ function(vak_test name)
     set_target_properties(${name} PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "${rpath}")
     target_link_libraries(${name} PRIVATE ${arg_LINK} host_api Qt5::Test)
     target_compile_definitions(${name} PRIVATE VAK_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
-    add_test(NAME ${name} COMMAND ${name})
+    if(arg_XVFB)
+        set(platform xcb)
+        add_test(NAME ${name} COMMAND xvfb-run -a -s "-screen 0 1280x1024x24" $<TARGET_FILE:${name}>)
+    else()
+        set(platform offscreen)
+        add_test(NAME ${name} COMMAND ${name})
+    endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp;UBSAN_OPTIONS=print_stacktrace=1")
+        "QT_QPA_PLATFORM=${platform};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()
