@@ -7,3 +7,5 @@
 
 /// Lists the device catalogue.
 int runDevices(const QStringList &arguments);
+/// Lists the nets and buses of a design.
+int runNets(const QStringList &arguments);

@@ -66,7 +66,32 @@ static NETCATCHER::Hierachy *scopeOf(const NETCATCHER::RtlNetlist *netlist, cons
     return criteria.scope ? criteria.scope : netlist->topHierarchy();
 }
 
+/// Instance names may hold slashes themselves, so every child that fits is tried.
+static NETCATCHER::Hierachy *findBelow(NETCATCHER::Hierachy *node, const QString &path)
+{
+    const QList<NETCATCHER::Hierachy *> children = node->children();
+    for (NETCATCHER::Hierachy *child : children) {
+        const QString name = child->name();
+        if (path == name)
+            return child;
+        if (!path.startsWith(name + QLatin1Char('/')))
+            continue;
+        if (NETCATCHER::Hierachy *found = findBelow(child, path.mid(name.size() + 1)))
+            return found;
+    }
+    return nullptr;
+}
+
 } // namespace private_impl
+
+NETCATCHER::Hierachy *findScope(const NETCATCHER::RtlNetlist *netlist, const QString &path)
+{
+    if (!netlist)
+        return nullptr;
+    NETCATCHER::Hierachy *top = netlist->topHierarchy();
+    NETCATCHER::Hierachy *found = path.isEmpty() ? top : private_impl::findBelow(top, path);
+    return !found && path == top->name() ? top : found;
+}
 
 QString patternError(const SearchCriteria &criteria)
 {

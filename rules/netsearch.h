@@ -44,6 +44,10 @@ struct HierarchyHits
     QList<HierarchyHits> children;
 };
 
+/// The node whose path from the top is `path` (`u_core/u_alu`): the top node for an empty path or the top's name, null
+/// when there is no such instance.
+NETCATCHER::Hierachy *findScope(const NETCATCHER::RtlNetlist *netlist, const QString &path);
+
 /// Why the pattern is no valid wildcard or regular expression; empty when it is one, and for plain text.
 QString patternError(const SearchCriteria &criteria);
 

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "blackboxes.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cctype>
+
+namespace NETCATCHER {
+
+/// No primitive has more; guards against nonsense in an engine's message.
+constexpr int maxPositional = 4096;
+
+static bool isPlainName(const QByteArray &name)
+{
+    return !name.isEmpty() && !std::isdigit(static_cast<unsigned char>(name[0])) && name[0] != '$' &&
+           name.size() < 200 && std::all_of(name.begin(), name.end(), [](char c) {
+               return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '$';
+           });
+}
+
+/// A name as it stands in Verilog text.
+static QByteArray written(const QByteArray &name)
+{
+    return isPlainName(name) ? name : '\\' + name + ' ';
+}
+
+QString BlackBoxes::folderName()
+{
+    return QStringLiteral("vakstub");
+}
+
+QString BlackBoxes::suffix()
+{
+    return QStringLiteral("vakstub");
+}
+
+bool BlackBoxes::isStandIn(const QByteArray &plainName)
+{
+    return plainName.startsWith("vakstub/");
+}
+
+void BlackBoxes::learn(const HdlScan &scan)
+{
+    for (auto it = scan.usages.cbegin(); it != scan.usages.cend(); ++it) {
+        ModuleUsage &usage = m_usages[it.key()];
+        usage.pins.unite(it->pins);
+        usage.parameters.unite(it->parameters);
+        usage.positionalPins = qMax(usage.positionalPins, it->positionalPins);
+        usage.positionalParameters = qMax(usage.positionalParameters, it->positionalParameters);
+    }
+    m_common.parameters.unite(scan.defparams);
+}
+
+/// The number in `__pinNumber3`, the engine's name for the third connection without a name; 0 for any other text.
+static int positionIn(const QString &name, const char *prefix)
+{
+    if (!name.startsWith(QLatin1String(prefix)))
+        return 0;
+    return qBound(0, name.mid(int(qstrlen(prefix))).toInt(), maxPositional);
+}
+
+bool BlackBoxes::learnPin(const QString &name)
+{
+    const int position = positionIn(name, "__pinNumber");
+    if (position > m_common.positionalPins) {
+        m_common.positionalPins = position;
+        return true;
+    }
+    const int before = m_common.pins.size();
+    if (position == 0)
+        m_common.pins.insert(name.toUtf8());
+    return m_common.pins.size() > before;
+}
+
+bool BlackBoxes::learnParameter(const QString &name)
+{
+    const int position = positionIn(name, "__paramNumber");
+    if (position > m_common.positionalParameters) {
+        m_common.positionalParameters = position;
+        return true;
+    }
+    const int before = m_common.parameters.size();
+    if (position == 0)
+        m_common.parameters.insert(name.toUtf8());
+    return m_common.parameters.size() > before;
+}
+
+bool BlackBoxes::learnWidth(const QString &pin, int width)
+{
+    int &known = m_widths[pin.toUtf8()];
+    const bool isNew = width > known;
+    known = qMax(known, width);
+    return isNew;
+}
+
+bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
+{
+    static const QRegularExpression missing(QStringLiteral("^Cannot find file containing module: '(.*)'$"));
+    static const QRegularExpression pin(QStringLiteral("^Pin not found: '(.*)'$"));
+    static const QRegularExpression parameter(QStringLiteral("^Parameter pin not found: '(.*)'$"));
+    static const QRegularExpression width(
+        QStringLiteral("^Input port connection '(.*)' as part of a module instance "
+                       "array requires (\\d+) or (\\d+) bits.* generates (\\d+) bits"));
+    bool learned = false;
+    for (const EngineMessage &message : messages) {
+        QRegularExpressionMatch match = missing.match(message.text);
+        if (match.hasMatch() && !m_usages.contains(match.captured(1).toUtf8())) {
+            m_usages.insert(match.captured(1).toUtf8(), ModuleUsage());
+            learned = true;
+        }
+        match = pin.match(message.text);
+        if (match.hasMatch())
+            learned = learnPin(match.captured(1)) || learned;
+        match = parameter.match(message.text);
+        if (match.hasMatch())
+            learned = learnParameter(match.captured(1)) || learned;
+        match = width.match(message.text);
+        const int instances = match.captured(2).toInt() > 0 ? match.captured(3).toInt() / match.captured(2).toInt() : 0;
+        if (instances > 0)
+            learned = learnWidth(match.captured(1), match.captured(4).toInt() / instances) || learned;
+    }
+    return learned;
+}
+
+static QByteArray joined(const QByteArray &prefix, QSet<QByteArray> names, int positional, const char *placeholder,
+                         const QByteArray &suffix)
+{
+    QList<QByteArray> all;
+    for (int i = 0; i < positional; ++i)
+        all.append(prefix + placeholder + QByteArray::number(i) + suffix);
+    QList<QByteArray> sorted = names.values();
+    std::sort(sorted.begin(), sorted.end());
+    for (const QByteArray &name : qAsConst(sorted))
+        all.append(prefix + written(name) + suffix);
+    return all.join(", ");
+}
+
+QByteArray BlackBoxes::standIn(const QByteArray &module, const ModuleUsage &usage) const
+{
+    QSet<QByteArray> narrow = usage.pins + m_common.pins;
+    QByteArray wide;
+    for (auto it = m_widths.cbegin(); it != m_widths.cend(); ++it) {
+        if (narrow.remove(it.key()))
+            wide += ", input wire [" + QByteArray::number(it.value() - 1) + ":0] " + written(it.key());
+    }
+    const QByteArray parameters =
+        joined("parameter ", usage.parameters + m_common.parameters,
+               qMax(usage.positionalParameters, m_common.positionalParameters), "vakparam", " = 0");
+    QByteArray pins =
+        joined("input wire ", narrow, qMax(usage.positionalPins, m_common.positionalPins), "vakpin", {}) + wide;
+    if (pins.startsWith(", "))
+        pins.remove(0, 2);
+    return "module " + written(module) + (parameters.isEmpty() ? QByteArray() : " #(" + parameters + ')') + " (" +
+           pins + ");\nendmodule\n";
+}
+
+bool BlackBoxes::write(const QString &folder) const
+{
+    const QDir place(folder + QLatin1Char('/') + folderName());
+    if (!QDir().mkpath(place.path()))
+        return false;
+    for (auto it = m_usages.cbegin(); it != m_usages.cend(); ++it) {
+        if (!isPlainName(it.key()))
+            continue;
+        QFile file(place.filePath(QString::fromUtf8(it.key()) + QLatin1Char('.') + suffix()));
+        const QByteArray text = standIn(it.key(), *it);
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+            return false;
+    }
+    return true;
+}
+
+} // namespace NETCATCHER

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "enginemessages.h"
+#include "hdlscan.h"
+
+#include <QMap>
+#include <QString>
+
+namespace NETCATCHER {
+
+/// Stand-ins for modules without source, which are normal in FPGA designs: vendor primitives, memories, clock
+/// generators. The engine needs a declaration with every pin and parameter that an instance uses; all pins are inputs,
+/// which any expression may be connected to.
+class BlackBoxes
+{
+public:
+    /// The plain name of the folder with the stand-ins. The engine looks there only for modules that no source
+    /// declares.
+    static QString folderName();
+    static QString suffix();
+    /// Whether a file that the engine names is a stand-in.
+    static bool isStandIn(const QByteArray &plainName);
+
+    /// Takes over how the sources use modules that they do not declare.
+    void learn(const HdlScan &scan);
+    /// Takes over what the engine missed; false when there was nothing new in it.
+    bool learn(const QVector<EngineMessage> &messages);
+    /// Writes the stand-ins below `folder`; false when that fails.
+    bool write(const QString &folder) const;
+
+private:
+    bool learnPin(const QString &name);
+    bool learnParameter(const QString &name);
+    bool learnWidth(const QString &pin, int width);
+    QByteArray standIn(const QByteArray &module, const ModuleUsage &usage) const;
+
+    QMap<QByteArray, ModuleUsage> m_usages;
+    ModuleUsage m_common; ///< pins and parameters that the engine missed somewhere: every stand-in gets them
+    QMap<QByteArray, int> m_widths;
+};
+
+} // namespace NETCATCHER

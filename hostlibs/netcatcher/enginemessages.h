@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+namespace NETCATCHER {
+
+class PrivateFolder;
+
+/// One message of the Verilog engine.
+struct EngineMessage
+{
+    bool isError = false;
+    QString code; ///< "PINNOTFOUND"; often empty
+    QString file; ///< plain name; empty when the message is about no place
+    int line = 0;
+    QString text;
+};
+
+/// The messages in the engine's output, without its quotations of source lines and its closing remarks.
+QVector<EngineMessage> parseEngineMessages(const QByteArray &output);
+
+/// The message as users see it: "ERROR: FILE:LINE: text" or "WARNING: ...", with their own paths and, where it is
+/// known, what to do about it.
+QString userMessage(const EngineMessage &message, const PrivateFolder &folder);
+
+} // namespace NETCATCHER

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "engineprocess.h"
+
+#include <QElapsedTimer>
+#include <QLoggingCategory>
+#include <QProcessEnvironment>
+
+#include <algorithm>
+
+#include <csignal>
+
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace NETCATCHER {
+
+Q_LOGGING_CATEGORY(engineLog, "netcatcher.engine", QtWarningMsg)
+
+constexpr int idleMs = 50;
+constexpr int maxMessageBytes = 64 << 20;
+/// Deeply nested expressions need more stack than the usual eight megabytes.
+constexpr rlim_t stackBytes = rlim_t(1) << 30;
+
+namespace {
+
+/// A process that dies with its parent and keeps to its limits.
+class LimitedProcess : public QProcess
+{
+public:
+    explicit LimitedProcess(const EngineLimits &given)
+        : limits(given)
+        , parentId(getpid())
+    {
+    }
+
+protected:
+    /// Runs in the child between fork and exec: only calls that are safe there.
+    void setupChildProcess() override
+    {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (getppid() != parentId)
+            _exit(127);
+        limit(RLIMIT_AS, limits.memoryBytes);
+        limit(RLIMIT_FSIZE, limits.fileBytes);
+        limit(RLIMIT_CORE, 0);
+        limit(RLIMIT_STACK, stackBytes);
+    }
+
+private:
+    static void limit(__rlimit_resource_t resource, rlim_t value)
+    {
+        rlimit current{};
+        getrlimit(resource, &current);
+        current.rlim_cur = std::min(value, current.rlim_max);
+        setrlimit(resource, &current);
+    }
+
+    const EngineLimits limits;
+    const pid_t parentId;
+};
+
+} // namespace
+
+static quint64 defaultMemory()
+{
+    const auto pages = quint64(sysconf(_SC_PHYS_PAGES));
+    return pages * quint64(sysconf(_SC_PAGESIZE)) / 4 * 3;
+}
+
+static QProcessEnvironment smallEnvironment(const QString &folder)
+{
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    environment.insert(QStringLiteral("PATH"), QStringLiteral("/usr/bin:/bin"));
+    environment.insert(QStringLiteral("HOME"), folder);
+    environment.insert(QStringLiteral("TMPDIR"), folder);
+    return environment;
+}
+
+/// Waits for the end; false when the time is over.
+static bool waitForEnd(QProcess &process, qint64 milliseconds, QByteArray &messages, const std::function<void()> &idle)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (process.state() != QProcess::NotRunning) {
+        if (process.waitForFinished(idleMs))
+            break;
+        const QByteArray read = process.readAll();
+        messages += read.left(maxMessageBytes - messages.size());
+        idle();
+        if (timer.hasExpired(milliseconds))
+            return false;
+    }
+    messages += process.readAll().left(maxMessageBytes - messages.size());
+    return true;
+}
+
+EngineResult runEngine(const QString &program, const QStringList &arguments, const QString &folder,
+                       const EngineLimits &limits, const std::function<void()> &idle)
+{
+    EngineLimits effective = limits;
+    if (effective.memoryBytes == 0)
+        effective.memoryBytes = defaultMemory();
+    LimitedProcess process(effective);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setWorkingDirectory(folder);
+    process.setProcessEnvironment(smallEnvironment(folder));
+    qCDebug(engineLog) << program << arguments;
+    process.start(program, arguments, QIODevice::ReadOnly);
+    EngineResult result;
+    if (!process.waitForStarted())
+        return result;
+    if (!waitForEnd(process, limits.milliseconds, result.messages, idle)) {
+        process.kill();
+        process.waitForFinished();
+        result.outcome = EngineResult::TimedOut;
+        return result;
+    }
+    result.outcome = process.exitStatus() == QProcess::CrashExit ? EngineResult::Crashed : EngineResult::Finished;
+    result.exitCode = process.exitCode();
+    return result;
+}
+
+} // namespace NETCATCHER

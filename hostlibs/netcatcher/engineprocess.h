@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace NETCATCHER {
+
+/// What an engine may use up before it is ended.
+struct EngineLimits
+{
+    qint64 milliseconds = 15 * 60 * 1000; ///< of all runs for one design
+    quint64 memoryBytes = 0;              ///< of address space; 0: three quarters of the machine's memory
+    quint64 fileBytes = quint64(8) << 30; ///< of one file that it writes
+};
+
+/// How an engine run ended.
+struct EngineResult
+{
+    enum Outcome {
+        Finished,   ///< by itself, with or without success
+        NotStarted, ///< the program is missing or cannot be run
+        Crashed,
+        TimedOut,
+    };
+
+    Outcome outcome = NotStarted;
+    int exitCode = -1;
+    QByteArray messages; ///< what it wrote to its standard channels
+};
+
+/// Runs an engine in `folder`: without a shell, in a small environment, within limits, and never longer than this
+/// process lives. `idle` is called about twenty times a second while it works.
+EngineResult runEngine(const QString &program, const QStringList &arguments, const QString &folder,
+                       const EngineLimits &limits, const std::function<void()> &idle);
+
+} // namespace NETCATCHER

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "moduletable.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+
+namespace NETCATCHER {
+
+/// Bits of one module are numbered in 31 bits, see NetStore's handles.
+constexpr quint64 maxModuleBits = 0x7fffffff;
+
+static quint64 declaredWidth(qint32 left, qint32 right)
+{
+    return quint64(std::abs(qint64(left) - qint64(right))) + 1;
+}
+
+static QByteArray rangeText(qint32 left, qint32 right)
+{
+    return '[' + QByteArray::number(left) + ':' + QByteArray::number(right) + ']';
+}
+
+quint32 BusDef::bitCount() const
+{
+    return form == Vector ? quint32(declaredWidth(left, right)) : 0;
+}
+
+qint32 BusDef::indexAt(quint32 position) const
+{
+    return left <= right ? left + qint32(position) : left - qint32(position);
+}
+
+void ModuleDef::addSingle(const QByteArray &netName, bool unusable)
+{
+    singleArena += netName;
+    singleEnds.push_back(quint32(singleArena.size()) << 1 | quint32(unusable));
+}
+
+void ModuleDef::addBus(const QByteArray &baseName, qint32 left, qint32 right, bool unusable)
+{
+    const quint64 width = declaredWidth(left, right);
+    if (width > maxBusBits || bits + width > maxModuleBits) {
+        addWhole(baseName, BusDef::Capped, left, right);
+        return;
+    }
+    busArena += baseName;
+    buses.push_back({bits, quint32(busArena.size()), left, right, BusDef::Vector, unusable});
+    bits += quint32(width);
+}
+
+void ModuleDef::addWhole(const QByteArray &wholeName, BusDef::Form form, qint32 left, qint32 right)
+{
+    busArena += wholeName;
+    buses.push_back({bits, quint32(busArena.size()), left, right, form, true});
+}
+
+QByteArray ModuleDef::singleText(quint32 index) const
+{
+    const int begin = index == 0 ? 0 : int(singleEnds[index - 1] >> 1);
+    return QByteArray::fromRawData(singleArena.constData() + begin, int(singleEnds[index] >> 1) - begin);
+}
+
+QByteArray ModuleDef::busText(quint32 index) const
+{
+    const int begin = index == 0 ? 0 : int(buses[index - 1].nameEnd);
+    return QByteArray::fromRawData(busArena.constData() + begin, int(buses[index].nameEnd) - begin);
+}
+
+QString ModuleDef::singleName(quint32 index) const
+{
+    return QString::fromUtf8(singleText(index));
+}
+
+bool ModuleDef::isSingleUnusable(quint32 index) const
+{
+    return singleEnds[index] & 1;
+}
+
+QString ModuleDef::busName(quint32 index) const
+{
+    const BusDef &def = buses[index];
+    QString text = QString::fromUtf8(busText(index));
+    if (def.form != BusDef::Memory)
+        text += QLatin1String(rangeText(def.left, def.right));
+    return text;
+}
+
+QString ModuleDef::bitName(quint32 bit) const
+{
+    const quint32 index = busOfBit(bit);
+    const BusDef &def = buses[index];
+    return QString::fromUtf8(busText(index)) + QLatin1Char('[') + QString::number(def.indexAt(bit - def.firstBit)) +
+           QLatin1Char(']');
+}
+
+quint32 ModuleDef::busOfBit(quint32 bit) const
+{
+    // Buses without bits share their successor's first bit, so the last of equals is the owner.
+    const auto after = std::upper_bound(buses.begin(), buses.end(), bit,
+                                        [](quint32 value, const BusDef &def) { return value < def.firstBit; });
+    auto index = quint32(after - buses.begin()) - 1;
+    while (buses[index].bitCount() == 0)
+        --index;
+    return index;
+}
+
+/// Sorts the indices 0..count-1 by their names, where `text` gives the name of one; equal names keep their order.
+template <typename Text>
+static std::vector<quint32> sortedByName(quint32 count, Text text)
+{
+    std::vector<quint32> order(count);
+    std::iota(order.begin(), order.end(), 0u);
+    std::stable_sort(order.begin(), order.end(), [&](quint32 a, quint32 b) { return text(a) < text(b); });
+    return order;
+}
+
+std::optional<quint32> ModuleDef::findSingle(const QByteArray &netName) const
+{
+    if (singleOrder.size() != singleEnds.size())
+        singleOrder = sortedByName(singleCount(), [this](quint32 i) { return singleText(i); });
+    const auto found = std::lower_bound(singleOrder.begin(), singleOrder.end(), netName,
+                                        [this](quint32 i, const QByteArray &key) { return singleText(i) < key; });
+    if (found == singleOrder.end() || singleText(*found) != netName)
+        return {};
+    return *found;
+}
+
+std::optional<quint32> ModuleDef::findBit(const QByteArray &bitName) const
+{
+    const int bracket = bitName.lastIndexOf('[');
+    if (bracket < 0 || !bitName.endsWith(']'))
+        return {};
+    bool isNumber = false;
+    const QByteArray digits = bitName.mid(bracket + 1, bitName.size() - bracket - 2);
+    const qint32 index = digits.toInt(&isNumber);
+    if (!isNumber || QByteArray::number(index) != digits)
+        return {};
+    if (busOrder.size() != buses.size())
+        busOrder = sortedByName(busCount(), [this](quint32 i) { return busText(i); });
+    const QByteArray base = bitName.left(bracket);
+    auto found = std::lower_bound(busOrder.begin(), busOrder.end(), base,
+                                  [this](quint32 i, const QByteArray &key) { return busText(i) < key; });
+    for (; found != busOrder.end() && busText(*found) == base; ++found) {
+        const BusDef &def = buses[*found];
+        if (def.bitCount() > 0 && index >= std::min(def.left, def.right) && index <= std::max(def.left, def.right))
+            return def.firstBit + quint32(std::abs(qint64(index) - def.left));
+    }
+    return {};
+}
+
+void ModuleDef::squeeze()
+{
+    singleArena.squeeze();
+    busArena.squeeze();
+    singleEnds.shrink_to_fit();
+    buses.shrink_to_fit();
+    children.shrink_to_fit();
+}
+
+} // namespace NETCATCHER

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "netlistbuilder.h"
+
+#include "blackboxes.h"
+#include "designexpansion.h"
+#include "netstore.h"
+#include "verilatorengine.h"
+#include "verilatorxml.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace NETCATCHER {
+
+static bool isBlackBox(const RawModule &module)
+{
+    return BlackBoxes::isStandIn(module.file);
+}
+
+NetlistBuilder::NetlistBuilder(const DesignSources &sources)
+    : m_sources(sources)
+    , m_progress([](const BuildProgress &) {})
+{
+}
+
+NetlistBuilder::~NetlistBuilder() = default;
+
+void NetlistBuilder::setProgress(const ProgressFunction &progress)
+{
+    m_progress = progress;
+}
+
+void NetlistBuilder::setLimits(const EngineLimits &limits)
+{
+    m_limits = limits;
+}
+
+bool NetlistBuilder::analyse()
+{
+    m_isAnalysed = true;
+    VerilatorEngine engine(m_sources, m_limits, m_progress);
+    const bool hasResult = engine.run();
+    m_messages = engine.messages();
+    m_genvars = engine.genvars();
+    if (engine.isTopMissing()) {
+        m_tops = engine.declaredRoots();
+        return true;
+    }
+    if (!hasResult || !readResult(engine.xmlPath()))
+        return false;
+    listModules(m_sources.top.isEmpty() ? QStringList() : engine.declaredModules());
+    if (!m_sources.top.isEmpty() && m_tops.isEmpty())
+        m_tops = engine.declaredRoots();
+    return true;
+}
+
+bool NetlistBuilder::readResult(const QString &xmlPath)
+{
+    QFile file(xmlPath);
+    QString error = file.errorString();
+    const auto progress = [&](qint64 bytes) { m_progress({BuildProgress::ReadingResult, bytes, file.size()}); };
+    if (file.open(QIODevice::ReadOnly) && readVerilatorXml(file, m_design, progress, &error))
+        return true;
+    m_design = RawDesign();
+    m_messages.append(QStringLiteral("ERROR: The result of the Verilog engine cannot be read: %1").arg(error));
+    return false;
+}
+
+/// With a top set the engine keeps only what the top reaches; `declared` names the rest.
+void NetlistBuilder::listModules(const QStringList &declared)
+{
+    m_modules = declared;
+    for (const RawModule &module : m_design.modules) {
+        if (!module.isInterface && !isBlackBox(module))
+            m_modules.append(QString::fromUtf8(module.name));
+    }
+    m_modules.removeDuplicates();
+    for (const QByteArray &root : qAsConst(m_design.roots)) {
+        const auto found = std::find_if(m_design.modules.begin(), m_design.modules.end(),
+                                        [&root](const RawModule &module) { return module.key == root; });
+        if (found != m_design.modules.end() && !found->isInterface && !isBlackBox(*found))
+            m_tops.append(QString::fromUtf8(found->name));
+    }
+    if (!m_sources.top.isEmpty() && !m_tops.contains(m_sources.top))
+        m_tops.clear();
+    if (!m_sources.top.isEmpty() && m_tops.isEmpty())
+        m_modules.clear();
+}
+
+QByteArray NetlistBuilder::topKey() const
+{
+    const auto found = std::find_if(m_design.modules.begin(), m_design.modules.end(), [this](const RawModule &module) {
+        return QString::fromUtf8(module.name) == m_tops.constFirst() && m_design.roots.contains(module.key);
+    });
+    return found == m_design.modules.end() ? QByteArray() : found->key;
+}
+
+std::unique_ptr<RtlNetlist> NetlistBuilder::build(QString *error)
+{
+    if (m_tops.size() != 1 || topKey().isEmpty()) {
+        const auto isError = [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); };
+        const auto first = std::find_if(m_messages.cbegin(), m_messages.cend(), isError);
+        if (first != m_messages.cend())
+            *error = *first;
+        else if (m_tops.size() > 1)
+            *error = QStringLiteral("The design has several top modules: %1.").arg(m_tops.join(QStringLiteral(", ")));
+        else
+            *error = QStringLiteral("The design has no top module.");
+        return nullptr;
+    }
+    m_progress({BuildProgress::BuildingNetlist, 0, 0});
+    ExpansionOptions options;
+    options.top = topKey();
+    options.isBlackBox = isBlackBox;
+    options.genvars = m_genvars;
+    auto data = std::make_unique<RtlNetlist::Data>();
+    data->store = NetStore::build(expandDesign(m_design, options, &m_messages), error);
+    if (!data->store)
+        return nullptr;
+    return std::make_unique<RtlNetlist>(std::move(data));
+}
+
+} // namespace NETCATCHER

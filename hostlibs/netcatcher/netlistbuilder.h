@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "buildprogress.h"
+#include "designsources.h"
+#include "engineprocess.h"
+#include "rawdesign.h"
+
+#include <netcatcher/rtlnetlist.h>
+
+#include <memory>
+
+namespace NETCATCHER {
+
+/// Builds the netlist of a design, without a screen: analyse() runs the engine once, build() makes the netlist from its
+/// result. Blocks while it works; `progress` is called often enough to keep a display alive.
+class NetlistBuilder
+{
+public:
+    explicit NetlistBuilder(const DesignSources &sources);
+    ~NetlistBuilder();
+
+    void setProgress(const ProgressFunction &progress);
+    void setLimits(const EngineLimits &limits);
+
+    /// Reads the sources. False when the design has errors; messages() tells them.
+    bool analyse();
+
+    const DesignSources &sources() const { return m_sources; }
+    /// Whether analyse() was called.
+    bool isAnalysed() const { return m_isAnalysed; }
+    /// Just the top that was set, when it can be one; else every module that nothing instantiates.
+    const QStringList &tops() const { return m_tops; }
+    /// Every module found, without black boxes; none when the top that was set is not among them.
+    const QStringList &modules() const { return m_modules; }
+    /// Lines that begin with "ERROR" or "WARNING".
+    const QStringList &messages() const { return m_messages; }
+
+    /// The netlist below the only top; null, with `error` set, when there is none.
+    std::unique_ptr<RtlNetlist> build(QString *error);
+
+private:
+    bool readResult(const QString &xmlPath);
+    void listModules(const QStringList &declared);
+    QByteArray topKey() const;
+
+    const DesignSources m_sources;
+    EngineLimits m_limits;
+    ProgressFunction m_progress;
+    QStringList m_tops;
+    QStringList m_modules;
+    QStringList m_messages;
+    RawDesign m_design;
+    QSet<QByteArray> m_genvars;
+    bool m_isAnalysed = false;
+};
+
+} // namespace NETCATCHER

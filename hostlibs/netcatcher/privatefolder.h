@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "designsources.h"
+
+#include <QHash>
+#include <QMap>
+#include <QTemporaryDir>
+
+#include <optional>
+
+namespace NETCATCHER {
+
+/// The folder in which an engine works: links with plain names stand for the user's files, so that no name of the
+/// user's is ever seen, let alone interpreted, by the engine. Maps the plain names back.
+class PrivateFolder
+{
+public:
+    PrivateFolder();
+
+    bool isValid() const { return m_folder.isValid(); }
+    QString path() const { return m_folder.path(); }
+    QString filePath(const QString &plainName) const { return m_folder.filePath(plainName); }
+
+    /// Links a source file and answers its plain name, relative to the folder; empty when that fails. Files of one
+    /// folder of the user's get into one folder here, so that they find each other's includes.
+    QString addSource(const SourceFile &file);
+    /// Links a folder with include files and answers its plain name.
+    QString addIncludeFolder(const QString &path);
+    /// Makes `name`, included by the file with plain name `includer`, available beside that file when the user has it
+    /// beside the original. Answers its plain name.
+    std::optional<QString> addInclude(const QString &includer, const QString &name);
+
+    /// The user's path behind a plain name; the name itself when there is none.
+    QString userPath(const QString &plainName) const;
+    /// The text with all plain names replaced.
+    QString withUserPaths(const QString &text) const;
+
+private:
+    bool link(const QString &target, const QString &plainName);
+    QString folderFor(const QString &userFolder);
+
+    QTemporaryDir m_folder;
+    QHash<QString, QString> m_folders;  ///< user's folder to plain folder of sources
+    QMap<QString, QString> m_userPaths; ///< plain name to user's path
+    QMap<QString, QString> m_includeFolders;
+    int m_sourceCount = 0;
+};
+
+} // namespace NETCATCHER

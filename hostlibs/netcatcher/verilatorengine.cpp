@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "verilatorengine.h"
+
+#include "packageorder.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace NETCATCHER {
+
+static const char engineProgram[] = "verilator_bin";
+static const char resultFolder[] = "vakout";
+static const char resultPrefix[] = "Vx";
+/// Larger files are generated tables and netlists; the engine's own complaints replace what a scan would find in them.
+constexpr qint64 maxScanBytes = 64 << 20;
+/// Three passes suffice for real designs; each further one must have learned something new.
+constexpr int maxPasses = 12;
+
+VerilatorEngine::VerilatorEngine(const DesignSources &sources, const EngineLimits &limits,
+                                 const ProgressFunction &progress)
+    : m_sources(sources)
+    , m_limits(limits)
+    , m_progress(progress)
+{
+}
+
+QString VerilatorEngine::xmlPath() const
+{
+    return m_folder.filePath(QStringLiteral("%1/%2.xml").arg(QLatin1String(resultFolder), QLatin1String(resultPrefix)));
+}
+
+void VerilatorEngine::addError(const QString &text)
+{
+    m_messages.append(QLatin1String("ERROR: ") + text);
+}
+
+bool VerilatorEngine::linkSources()
+{
+    if (!m_folder.isValid()) {
+        addError(QStringLiteral("Cannot create a folder in %1.").arg(QDir::tempPath()));
+        return false;
+    }
+    for (const SourceFile &file : m_sources.files) {
+        const QFileInfo info(file.path);
+        if (file.language == SourceFile::Vhdl)
+            m_messages.append(
+                QStringLiteral("WARNING: %1: VHDL is not read; its entities are black boxes").arg(file.path));
+        else if (!info.isFile())
+            addError(QStringLiteral("%1: There is no such file.").arg(file.path));
+        else if (!info.isReadable())
+            addError(QStringLiteral("%1: The file cannot be read.").arg(file.path));
+        else if (const QString plainName = m_folder.addSource(file); !plainName.isEmpty())
+            m_files.append(plainName);
+        else
+            addError(QStringLiteral("%1: The file cannot be linked into %2.").arg(file.path, m_folder.path()));
+    }
+    for (const QString &path : m_sources.includePaths) {
+        if (!QFileInfo(path).isDir())
+            m_messages.append(QStringLiteral("WARNING: %1: There is no such include folder.").arg(path));
+        else
+            m_includeFolders.append(m_folder.addIncludeFolder(path));
+    }
+    m_includeFolders.removeAll(QString());
+    return std::none_of(m_messages.cbegin(), m_messages.cend(),
+                        [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); });
+}
+
+HdlText VerilatorEngine::openSource(int origin)
+{
+    HdlText text;
+    text.origin = origin;
+    QFile file(m_folder.filePath(m_files[origin]));
+    if (file.size() <= maxScanBytes && file.open(QIODevice::ReadOnly))
+        text.text = file.readAll();
+    return text;
+}
+
+std::optional<HdlText> VerilatorEngine::openInclude(const QByteArray &name, int origin)
+{
+    const QString wanted = QString::fromUtf8(name);
+    std::optional<QString> found = m_folder.addInclude(m_files[origin], wanted);
+    for (int i = 0; !found && i < m_includeFolders.size(); ++i) {
+        const QString candidate = m_includeFolders[i] + QLatin1Char('/') + wanted;
+        if (QFileInfo(m_folder.filePath(candidate)).isFile())
+            found = candidate;
+    }
+    if (!found)
+        return {};
+    m_files.append(*found);
+    return openSource(m_files.size() - 1);
+}
+
+void VerilatorEngine::scanSources()
+{
+    HdlScanner scanner(m_sources.defines,
+                       [this](const QByteArray &name, int origin) { return openInclude(name, origin); });
+    BuildProgress progress;
+    const int sourceCount = m_files.size();
+    for (int i = 0; i < sourceCount; ++i)
+        progress.totalBytes += QFileInfo(m_folder.filePath(m_files[i])).size();
+    QVector<HdlScan> scans;
+    for (int i = 0; i < sourceCount; ++i) {
+        m_progress(progress);
+        scans.append(scanner.scan(openSource(i)));
+        progress.doneBytes += QFileInfo(m_folder.filePath(m_files[i])).size();
+        m_all.modules += scans[i].modules;
+        m_all.genvars.unite(scans[i].genvars);
+        for (auto it = scans[i].usages.cbegin(); it != scans[i].usages.cend(); ++it)
+            m_all.usages.insert(it.key(), it.value());
+        m_blackBoxes.learn(scans[i]);
+    }
+    m_order = packageOrder(scans);
+}
+
+QStringList VerilatorEngine::arguments() const
+{
+    QStringList result{
+        QStringLiteral("--xml-only"),    QStringLiteral("--bbox-unsup"),
+        QStringLiteral("--bbox-sys"),    QStringLiteral("-Wno-fatal"),
+        QStringLiteral("-Wno-lint"),     QStringLiteral("-Wno-style"),
+        QStringLiteral("-Wno-MULTITOP"), QStringLiteral("--no-timing"),
+        QStringLiteral("-O0"),           QStringLiteral("-fno-dfg"),
+        QStringLiteral("-UVERILATOR"),   QStringLiteral("-Uverilator"),
+        QStringLiteral("-DSYNTHESIS"),   QStringLiteral("--error-limit"),
+        QStringLiteral("100000"),        QStringLiteral("--unroll-count"),
+        QStringLiteral("1000000"),       QStringLiteral("--prefix"),
+        QLatin1String(resultPrefix),     QStringLiteral("--Mdir"),
+        QLatin1String(resultFolder),     QStringLiteral("--relative-includes"),
+    };
+    if (!m_sources.top.isEmpty())
+        result << QStringLiteral("--top-module") << m_sources.top;
+    const QString language = engineLanguage(m_sources.standard);
+    if (!language.isEmpty())
+        result << QStringLiteral("--default-language") << language;
+    // SystemVerilog files are that whatever the standard of the others; stand-ins may have any word as a pin's name.
+    result << QStringLiteral("+1800-2017ext+sv") << QStringLiteral("+1364-2005ext+") + BlackBoxes::suffix();
+    result << QStringLiteral("+libext+.") + BlackBoxes::suffix() << QStringLiteral("-y") << BlackBoxes::folderName();
+    for (const QString &folder : m_includeFolders)
+        result << QStringLiteral("-I") + folder;
+    for (const QString &define : m_sources.defines)
+        result << QStringLiteral("-D") + define;
+    for (int file : m_order)
+        result << m_files[file];
+    return result;
+}
+
+bool VerilatorEngine::learnIncludes(const QVector<EngineMessage> &messages)
+{
+    static const QRegularExpression missing(QStringLiteral("^Cannot find include file: (.*)$"));
+    bool learned = false;
+    for (const EngineMessage &message : messages) {
+        const QRegularExpressionMatch match = missing.match(message.text);
+        learned = (match.hasMatch() && m_folder.addInclude(message.file, match.captured(1))) || learned;
+    }
+    return learned;
+}
+
+bool VerilatorEngine::learn(const QVector<EngineMessage> &messages)
+{
+    const bool includes = learnIncludes(messages);
+    return m_blackBoxes.learn(messages) || includes;
+}
+
+/// Decides what a run without success means, and says so in the messages.
+bool VerilatorEngine::judge(const EngineResult &result, const QVector<EngineMessage> &messages)
+{
+    if (result.outcome == EngineResult::TimedOut) {
+        addError(QStringLiteral("The Verilog engine did not finish within %1 seconds and was ended.")
+                     .arg(m_limits.milliseconds / 1000));
+        return false;
+    }
+    int errors = 0;
+    for (const EngineMessage &message : messages) {
+        if (message.isError && message.text.startsWith(QLatin1String("Specified --top-module"))) {
+            m_isTopMissing = true;
+            continue;
+        }
+        errors += message.isError ? 1 : 0;
+        m_messages.append(userMessage(message, m_folder));
+    }
+    m_isTopMissing = m_isTopMissing && errors == 0;
+    const bool hasFailed = result.outcome != EngineResult::Finished || result.exitCode != 0;
+    if (!hasFailed)
+        return true;
+    if (result.messages.contains("bad_alloc") || result.messages.contains("Out of memory"))
+        addError(QStringLiteral("The Verilog engine ran out of memory; set the top module to a part of the design."));
+    else if (result.outcome == EngineResult::Crashed)
+        addError(
+            QStringLiteral("The Verilog engine crashed. Set the top module, or disable files one by one to find "
+                           "what it cannot read; a module that instantiates itself without end is a usual cause."));
+    else if (errors == 0 && !m_isTopMissing)
+        addError(QStringLiteral("The Verilog engine failed without saying why."));
+    return false;
+}
+
+bool VerilatorEngine::run()
+{
+    if (!linkSources())
+        return false;
+    const QString program = QStandardPaths::findExecutable(QLatin1String(engineProgram));
+    if (program.isEmpty()) {
+        addError(QStringLiteral("The Verilog engine %1 is not installed; install the Debian package \"verilator\" "
+                                "(apt install verilator).")
+                     .arg(QLatin1String(engineProgram)));
+        return false;
+    }
+    scanSources();
+    if (m_order.isEmpty())
+        return false;
+    QElapsedTimer timer;
+    timer.start();
+    for (int pass = 1;; ++pass) {
+        if (!m_blackBoxes.write(m_folder.path())) {
+            addError(QStringLiteral("Cannot write to %1.").arg(m_folder.path()));
+            return false;
+        }
+        EngineLimits left = m_limits;
+        left.milliseconds = qMax(qint64(1), m_limits.milliseconds - timer.elapsed());
+        const EngineResult result = runEngine(program, arguments(), m_folder.path(), left, [this] {
+            m_progress({BuildProgress::RunningEngine, 0, 0});
+        });
+        if (result.outcome == EngineResult::NotStarted) {
+            addError(QStringLiteral("The Verilog engine %1 cannot be started.").arg(program));
+            return false;
+        }
+        const QVector<EngineMessage> messages = parseEngineMessages(result.messages);
+        if (pass == maxPasses || result.exitCode == 0 || !learn(messages))
+            return judge(result, messages);
+    }
+}
+
+QStringList VerilatorEngine::declaredModules() const
+{
+    QStringList names;
+    for (const QByteArray &name : m_all.modules)
+        names.append(QString::fromUtf8(name));
+    names.removeDuplicates();
+    return names;
+}
+
+QStringList VerilatorEngine::declaredRoots() const
+{
+    QStringList names;
+    for (const QByteArray &name : m_all.modules) {
+        if (!m_all.usages.contains(name))
+            names.append(QString::fromUtf8(name));
+    }
+    names.removeDuplicates();
+    return names;
+}
+
+} // namespace NETCATCHER

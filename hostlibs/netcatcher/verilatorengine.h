@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "blackboxes.h"
+#include "buildprogress.h"
+#include "designsources.h"
+#include "engineprocess.h"
+#include "privatefolder.h"
+
+namespace NETCATCHER {
+
+/// Runs Verilator over the Verilog files of a design until it succeeds or has errors that are the design's own.
+class VerilatorEngine
+{
+public:
+    VerilatorEngine(const DesignSources &sources, const EngineLimits &limits, const ProgressFunction &progress);
+
+    /// False when there is no result; messages() then holds an error, unless only the top was not found.
+    bool run();
+
+    /// The engine's result, inside the private folder.
+    QString xmlPath() const;
+    /// Errors and warnings as users see them.
+    const QStringList &messages() const { return m_messages; }
+    /// Whether the engine refused only because no module has the top's name.
+    bool isTopMissing() const { return m_isTopMissing; }
+    /// Modules that the sources declare, and those of them that none instantiates, by a scan of the text.
+    QStringList declaredModules() const;
+    QStringList declaredRoots() const;
+    const QSet<QByteArray> &genvars() const { return m_all.genvars; }
+
+private:
+    bool linkSources();
+    void scanSources();
+    HdlText openSource(int origin);
+    std::optional<HdlText> openInclude(const QByteArray &name, int origin);
+    bool learn(const QVector<EngineMessage> &messages);
+    bool learnIncludes(const QVector<EngineMessage> &messages);
+    QStringList arguments() const;
+    bool judge(const EngineResult &result, const QVector<EngineMessage> &messages);
+    void addError(const QString &text);
+
+    const DesignSources m_sources;
+    const EngineLimits m_limits;
+    const ProgressFunction m_progress;
+    PrivateFolder m_folder;
+    QStringList m_includeFolders; ///< plain names
+    QStringList m_files;          ///< plain names of the sources, by origin; those of includes follow
+    QVector<int> m_order;         ///< of the sources
+    HdlScan m_all;
+    BlackBoxes m_blackBoxes;
+    QStringList m_messages;
+    bool m_isTopMissing = false;
+};
+
+} // namespace NETCATCHER
