@@ -36,7 +36,7 @@ static QVariant toolTipText(const MatchUnit &unit, int column)
     if (column == MatchUnitModel::ValueColumn)
         return matchValueText(unit);
     if (column == MatchUnitModel::CounterColumn)
-        return counterExplanation(unit);
+        return counterExplanation(unit.counterMode(), unit.counterValue());
     if (column != MatchUnitModel::PortColumn || !port)
         return {};
     if (!port->isAvailable())

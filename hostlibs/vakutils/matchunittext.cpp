@@ -53,13 +53,13 @@ QString counterText(const MatchUnit &unit)
     }
 }
 
-QString counterExplanation(const MatchUnit &unit)
+QString counterExplanation(CounterMode mode, int count)
 {
-    switch (unit.counterMode()) {
+    switch (mode) {
     case CounterMode::Total:
-        return translated("True from matching sample number %1 on").arg(unit.counterValue());
+        return translated("True from matching sample number %1 on").arg(count);
     case CounterMode::Consecutive:
-        return translated("True while the last %1 samples matched").arg(unit.counterValue());
+        return translated("True while the last %1 samples matched").arg(count);
     default:
         return translated("True on each matching sample");
     }

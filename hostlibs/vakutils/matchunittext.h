@@ -18,7 +18,7 @@ QStringList portSignalNames(const TriggerPort *port);
 QString matchValueText(const MatchUnit &unit);
 /// The counter's mode, with the count when it is on.
 QString counterText(const MatchUnit &unit);
-/// What the counter does, in a sentence.
-QString counterExplanation(const MatchUnit &unit);
+/// What a counter does, in a sentence.
+QString counterExplanation(CounterMode mode, int count);
 
 } // namespace VAK
