@@ -106,7 +106,9 @@ void CaptureOptionWidget::loadCore()
     ui->chkBoxCaptureInitial->setChecked(core->captureInitialData());
     ui->comboWindowNum->setMaxVisibleItems(15);
     ui->comboWindowNum->setStyleSheet(QStringLiteral("QComboBox{combobox-popup:0;}"));
-    ui->comboImpl->setCurrentIndex(ui->comboImpl->findText(implementationName(core->captureImplementation())));
+    const int stored = ui->comboImpl->findText(implementationName(core->captureImplementation()));
+    if (stored >= 0) // else what the list shows stays selected
+        ui->comboImpl->setCurrentIndex(stored);
     loadSignals();
 }
 

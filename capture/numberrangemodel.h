@@ -3,13 +3,15 @@
 
 #pragma once
 
+#include "plugin/vakinsexport.h"
+
 #include <QAbstractListModel>
 
 namespace RTLVAK::private_impl {
 
 /// The numbers 1, 2, 3 .. as a list, each text and user data alike. Thousands of entries cost nothing: only their count
 /// is kept, and a number is found without looking at the others.
-class NumberRangeModel : public QAbstractListModel
+class VAKINS_EXPORT NumberRangeModel : public QAbstractListModel
 {
     Q_OBJECT
 
