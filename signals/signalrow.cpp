@@ -141,13 +141,6 @@ void SignalRow::setRecord(const VAK::SignalItem &newRecord)
     }
 }
 
-static void setColour(QTreeWidgetItem *item, Qt::GlobalColor colour)
-{
-    const QBrush brush(colour);
-    if (item->foreground(0) != brush)
-        item->setForeground(0, brush);
-}
-
 static Qt::GlobalColor colourOf(const VAK::SignalItem &record, bool active)
 {
     if (!active || !record.enabled)
@@ -223,9 +216,9 @@ void colourSignalRow(QTreeWidgetItem *row)
     const Qt::ItemFlags flags = active ? row->flags() | Qt::ItemIsDragEnabled : row->flags() & ~Qt::ItemIsDragEnabled;
     if (flags != row->flags())
         row->setFlags(flags);
-    private_impl::setColour(row, private_impl::colourOf(*record, active));
+    row->setForeground(0, QBrush(private_impl::colourOf(*record, active))); // an equal value is no change
     for (int i = 0; i < row->childCount(); ++i)
-        private_impl::setColour(row->child(i), private_impl::colourOf(record->members.at(i), active));
+        row->child(i)->setForeground(0, QBrush(private_impl::colourOf(record->members.at(i), active)));
 }
 
 } // namespace RTLVAK

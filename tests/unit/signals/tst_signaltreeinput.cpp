@@ -6,6 +6,7 @@
 #include "support/dialogdriver.h"
 #include "support/widgethelpers.h"
 
+#include <QAction>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -263,7 +264,12 @@ void TestSignalTreeInput::surroundingDialogSeesNoneOfTheKeys()
     button->setDefault(true);
     int clicks = 0;
     connect(button, &QPushButton::clicked, &dialog, [&clicks] { ++clicks; });
+    QAction shortcut;
+    shortcut.setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter), QKeySequence(Qt::Key_Escape)});
+    connect(&shortcut, &QAction::triggered, &dialog, [&clicks] { ++clicks; });
+    dialog.addAction(&shortcut);
     dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
         QLineEdit *editor = beginRename(*tree, tree->row(0));
         QTest::keyClick(editor, key);
@@ -271,6 +277,7 @@ void TestSignalTreeInput::surroundingDialogSeesNoneOfTheKeys()
         QCOMPARE(clicks, 0);
         support::runDeferredDeletes();
     }
+    dialog.removeAction(&shortcut);
     QTest::keyClick(tree, Qt::Key_Return);
     QCOMPARE(clicks, 1);
 }
