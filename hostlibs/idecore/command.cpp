@@ -15,6 +15,7 @@ Command::Command(const QString &id, const QString &text, QObject *parent)
     connect(ContextTracker::instance(), &ContextTracker::changed, this, &Command::follow);
     connect(this, &QAction::triggered, this, &Command::forward);
     mirror();
+    follow();
 }
 
 void Command::follow()

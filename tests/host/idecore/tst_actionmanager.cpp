@@ -35,6 +35,7 @@ private slots:
     void commandIsDisabledWithNothingRegistered();
     void commandSurvivesItsTarget();
     void actionRegisteredLateIsFound();
+    void commandMadeLateFindsTheAction();
     void contextCanBeTakenBack();
     void focusedWidgetsContextComesFirst();
 
@@ -192,6 +193,16 @@ void TestActionManager::actionRegisteredLateIsFound()
     QAction action("late");
     ActionManager::registerAction(&action, "id.late", "ctx");
     QCOMPARE(command.text(), QString("late"));
+    QVERIFY(command.isEnabled());
+}
+
+void TestActionManager::commandMadeLateFindsTheAction()
+{
+    QAction action("early");
+    ActionManager::registerAction(&action, "id.early", "ctx");
+    open("ctx");
+    Command command("id.early", "Save", nullptr);
+    QCOMPARE(command.text(), QString("early"));
     QVERIFY(command.isEnabled());
 }
 
