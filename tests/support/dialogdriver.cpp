@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMenu>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
@@ -173,13 +174,20 @@ bool DialogDriver::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
+/// A dialog that only shows how far something is: nothing to click, a bar.
+static bool isProgress(const QWidget *window)
+{
+    return qobject_cast<const QProgressDialog *>(window) ||
+           (window->findChild<QProgressBar *>() && !window->findChild<QAbstractButton *>());
+}
+
 bool DialogDriver::concerns(QWidget *window, Kind *kind)
 {
     if (qobject_cast<QMessageBox *>(window))
         *kind = Kind::Box;
     else if (qobject_cast<QMenu *>(window))
         *kind = Kind::Menu;
-    else if (qobject_cast<QDialog *>(window) && window->isModal() && !qobject_cast<QProgressDialog *>(window))
+    else if (qobject_cast<QDialog *>(window) && window->isModal() && !isProgress(window))
         *kind = Kind::Dialog;
     else
         return false;

@@ -6,6 +6,7 @@
 
 #include <QInputDialog>
 #include <QMenu>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QTest>
 #include <QVBoxLayout>
@@ -220,9 +221,14 @@ void TestDialogDriver::nonModalAndProgressDialogsAreLeftAlone()
     QProgressDialog progress;
     progress.setWindowModality(Qt::ApplicationModal);
     progress.show();
+    QDialog bar;
+    bar.setModal(true);
+    new QProgressBar(&bar);
+    bar.show();
     QTest::qWait(10);
     QVERIFY(dialog.isVisible());
     QVERIFY(progress.isVisible());
+    QVERIFY(bar.isVisible());
     QCOMPARE(driver.shownCount(), 0);
 }
 
