@@ -32,7 +32,7 @@ struct MatchUnitDialog::Private
     void showBits();
     void showPortBits();
     void chooseBit(int column, int row, QChar character);
-    void fit(QLineEdit *edit);
+    QString fitted(const QLineEdit *edit, const QString &value) const;
     void showFitted(int stored);
     void showValues();
     void showMessage(const QString &message, const QString &numbers);
@@ -48,7 +48,8 @@ struct MatchUnitDialog::Private
     MatchUnit *unit;
     MatchUnitForm form;
     BitTableModel *bits;
-    MatchFunction shownFunction;
+    MatchFunction shownFunction; ///< the function and the width that the shown values were made for
+    int shownWidth = 0;
 };
 
 MatchUnitDialog::Private::Private(MatchUnitDialog *dialog, MatchUnit *matchUnit)
@@ -87,14 +88,11 @@ void MatchUnitDialog::Private::load()
     form.comboPort->setCurrentIndex(form.comboPort->findData(index));
     form.comboFunction->addItems(matchFunctionTexts());
     form.comboFunction->setCurrentIndex(static_cast<int>(unit->function()));
-    form.editValue0->setText(unit->value0());
-    form.editValue1->setText(unit->value1());
+    form.editValue0->setText(fitted(form.editValue0, unit->value0()));
+    form.editValue1->setText(fitted(form.editValue1, unit->value1()));
     form.comboCounter->setCurrentIndex(static_cast<int>(unit->counterMode()));
     form.spinCount->setValue(unit->counterValue());
-    const int stored = unit->value0().size();
-    fit(form.editValue0);
-    fit(form.editValue1);
-    showFitted(stored);
+    showFitted(unit->value0().size());
     showPortBits();
     showBits();
     counterChanged();
@@ -148,14 +146,14 @@ QString MatchUnitDialog::Private::value(const QLineEdit *edit, QString *error) c
     return storedValue(edit->text(), width(), function(), error);
 }
 
-/// Shows a value that has another length than the port, or none, at the port's width.
-void MatchUnitDialog::Private::fit(QLineEdit *edit)
+/// A stored value at the port's width. The upper bound begins where it excludes nothing.
+QString MatchUnitDialog::Private::fitted(const QLineEdit *edit, const QString &value) const
 {
-    QString ignored;
-    if (width() == 0 || !value(edit, &ignored).isEmpty())
-        return;
-    const bool upperOfNone = edit == form.editValue1 && edit->text().isEmpty();
-    edit->setText(upperOfNone ? QString(width(), QLatin1Char('1')) : fittedValue(edit->text(), width(), function()));
+    if (width() == 0)
+        return value;
+    if (edit == form.editValue1 && value.isEmpty())
+        return QString(width(), QLatin1Char('1'));
+    return fittedValue(value, width(), function());
 }
 
 void MatchUnitDialog::Private::showFitted(int stored)
@@ -168,10 +166,15 @@ void MatchUnitDialog::Private::showFitted(int stored)
 
 void MatchUnitDialog::Private::portChanged()
 {
-    const int stored = form.editValue0->text().size();
-    fit(form.editValue0);
-    fit(form.editValue1);
-    showFitted(stored);
+    int length = 0;
+    for (QLineEdit *edit : {form.editValue1, form.editValue0}) {
+        QString ignored;
+        const QString value = storedValue(edit->text(), shownWidth, function(), &ignored);
+        const QString shown = value.isEmpty() ? edit->text() : value;
+        length = shown.size();
+        edit->setText(fitted(edit, shown));
+    }
+    showFitted(length);
     showPortBits();
     showBits();
 }
@@ -221,6 +224,7 @@ void MatchUnitDialog::Private::showBits()
     form.labelHint->setText(width() > 0 ? valueHint(function())
                                         : MatchUnitDialog::tr("Choose a trigger port with signals to set the value."));
     form.sizeColumns();
+    shownWidth = width();
     showValues();
 }
 

@@ -30,6 +30,7 @@ static QLabel *newTextLabel(QWidget *parent)
     auto *label = new QLabel(parent);
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
+    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     return label;
 }
 
@@ -46,6 +47,7 @@ MatchUnitForm::MatchUnitForm(QDialog *dialog)
     , tableBits(new BitTableView(dialog))
     , comboCounter(new QComboBox(dialog))
     , spinCount(new QSpinBox(dialog))
+    , labelCounterTitle(new QLabel(MatchUnitDialog::tr("Counter:"), dialog))
     , labelCounter(newTextLabel(dialog))
     , buttonBox(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog))
 {
@@ -77,7 +79,7 @@ void MatchUnitForm::addCounter(QFormLayout *layout)
     auto *row = new QHBoxLayout;
     row->addWidget(comboCounter, 1);
     row->addWidget(spinCount);
-    layout->addRow(MatchUnitDialog::tr("Counter:"), row);
+    layout->addRow(labelCounterTitle, row);
     layout->addRow(QString(), labelCounter);
 }
 
@@ -85,7 +87,9 @@ void MatchUnitForm::arrange(QDialog *dialog)
 {
     auto *top = new QFormLayout;
     top->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    top->addRow(MatchUnitDialog::tr("Trigger port:"), comboPort);
+    auto *labelPort = new QLabel(MatchUnitDialog::tr("Trigger port:"), dialog);
+    labelCounterTitle->setMinimumWidth(labelPort->sizeHint().width()); // two layouts, one column
+    top->addRow(labelPort, comboPort);
     top->addRow(MatchUnitDialog::tr("Function:"), comboFunction);
     top->addRow(labelValue0, editValue0);
     top->addRow(labelValue1, editValue1);
@@ -100,7 +104,7 @@ void MatchUnitForm::arrange(QDialog *dialog)
     layout->addWidget(labelHint);
     layout->addLayout(bottom);
     layout->addWidget(buttonBox);
-    dialog->resize(560, 560);
+    dialog->resize(600, 640);
 }
 
 void MatchUnitForm::showRange(bool range)

@@ -38,6 +38,7 @@ struct MatchUnitForm
     BitTableView *tableBits;
     QComboBox *comboCounter;
     QSpinBox *spinCount;
+    QLabel *labelCounterTitle;
     QLabel *labelCounter;
     QDialogButtonBox *buttonBox;
 

@@ -101,8 +101,11 @@ static QString wrongTextMessage(const QString &text, int width, MatchFunction fu
 
 QString storedValue(const QString &text, int width, MatchFunction function, QString *error)
 {
-    const QString plain = text.trimmed().toUpper().remove(QLatin1Char('_'));
-    if (plain.size() == width && width > 0 && consistsOf(plain, valueCharacters(function)))
+    const QString typed = text.trimmed().remove(QLatin1Char('_'));
+    const QString plain = typed.toUpper();
+    // B and X are bits, too: as a stored value, which is in capitals, 0B01 is four bits, and 0X1 three.
+    const bool number = typed.startsWith(QLatin1String("0b")) || typed.startsWith(QLatin1String("0x"));
+    if (!number && plain.size() == width && width > 0 && consistsOf(plain, valueCharacters(function)))
         return plain;
     const QString bits = withoutLeadingZeros(bitsOfNumber(plain, function));
     if (bits.isEmpty()) {

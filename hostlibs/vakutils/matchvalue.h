@@ -17,10 +17,10 @@ QString valueHint(MatchFunction function);
 /// The character of a bit that nothing is said about: X (any), or 0 where only numbers can be compared.
 QChar unsetBit(MatchFunction function);
 
-/// The stored form of `text` for a port of `width` bits, or an empty text with `*error` saying what is wrong. Accepted:
-/// one character for each bit; `0b` and `0x` numbers (X for a digit that is any, where the function allows it); decimal
-/// numbers (which are told from bits by their length and do not begin with 0). Blanks around it, `_` and the case of
-/// letters do not matter. Numbers are padded with 0.
+/// The stored form of `text` for a port of `width` bits, or an empty text with `*error` saying what is wrong. Accepted
+/// are one character for each bit; numbers that begin with `0b` or `0x` (in small letters; in capitals, a text of the
+/// right length is bits), where X is a digit that is any; and decimal numbers of another length that do not begin with
+/// 0. Numbers are padded with 0. Blanks around the text and `_` in it do not matter.
 QString storedValue(const QString &text, int width, MatchFunction function, QString *error);
 /// `value` for another width: drops from the most significant side, or pads there with unsetBit().
 QString fittedValue(const QString &value, int width, MatchFunction function);
