@@ -5,6 +5,7 @@
 
 #include "plugin/vakinserterview.h"
 
+#include "views/vakliteinserterview.h"
 #include "views/vakstandardinserterview.h"
 
 #include <Device/devicearg.h>
@@ -74,9 +75,7 @@ static std::unique_ptr<VakInserterView> createView(const QString &path)
     case VAK::VakMode::Standard:
         return std::make_unique<VakStandardInserterView>();
     case VAK::VakMode::Lite:
-        showError(
-            QStringLiteral("Can not open %1: Lite mode is not supported yet.").arg(QDir::toNativeSeparators(path)));
-        return nullptr;
+        return std::make_unique<VakLiteInserterView>();
     case VAK::VakMode::Invalid:
         break;
     }

@@ -19,7 +19,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
-#include <QLayout>
+#include <QHBoxLayout>
 #include <QPointer>
 #include <QTimer>
 
@@ -43,6 +43,14 @@ static void showValidationErrors(QWidget *view, const QString &text, const QStri
 }
 
 InserterDocument::~InserterDocument() = default;
+
+void InserterDocument::setUpBannerContainer(QWidget *container)
+{
+    auto *layout = new QHBoxLayout(container);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    container->hide();
+}
 
 void InserterDocument::subscribeEvent(QUtil::IEventHandler *handler)
 {

@@ -38,6 +38,8 @@ public:
     InserterDocument(const InserterDocument &) = delete;
     InserterDocument &operator=(const InserterDocument &) = delete;
 
+    /// Gives the container of banners its layout, and hides it.
+    static void setUpBannerContainer(QWidget *container);
     static void subscribeEvent(QUtil::IEventHandler *handler);
     static void unsubscribeEvent(QUtil::IEventHandler *handler);
 

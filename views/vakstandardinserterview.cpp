@@ -12,7 +12,6 @@
 #include <VakUtils/aocore.h>
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
 
 namespace RTLVAK {
 
@@ -28,10 +27,7 @@ VakStandardInserterView::VakStandardInserterView(QWidget *parent)
     d->notifyModified = [this](bool modified) { emit modificationStatusChanged(modified); };
     d->addChangedBanner();
     ui->widget_2->hide();
-    auto *banners = new QHBoxLayout(ui->widget_3);
-    banners->setSpacing(0);
-    banners->setContentsMargins(0, 0, 0, 0);
-    ui->widget_3->hide();
+    InserterDocument::setUpBannerContainer(ui->widget_3);
     subscribeEvent();
 }
 

@@ -5,16 +5,12 @@
 
 #include "ui_vakstandardinserterview.h"
 #include "views/bannerconnections.h"
-#include "views/corelist.h"
 #include "views/vakstandardinserterview.h"
 
-#include "capture/aooptionwidget.h"
 #include "rules/corevalidation.h"
 #include "widgets/changedbanner.h"
 
-#include <VakUtils/aocore.h>
 #include <VakUtils/vakfile.h>
-#include <netcatcher/rtlnetlist.h>
 
 #include <QAction>
 #include <QCursor>
@@ -26,7 +22,6 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <utility>
 
 namespace RTLVAK::private_impl {
 
@@ -59,15 +54,6 @@ void VakStandardInserterViewPrivate::addChangedBanner()
     auto *banner = new ChangedBanner(q->ui->widget_2);
     q->ui->widget_2->layout()->addWidget(banner);
     connect(banner->okButton(), &QPushButton::clicked, q, &VakStandardInserterView::onOKBtn);
-}
-
-void VakStandardInserterViewPrivate::deletePages()
-{
-    const QList<AoOptionWidget *> pages = q->findChildren<AoOptionWidget *>();
-    for (AoOptionWidget *page : pages)
-        page->disconnect(q); // a page that loses the focus while it dies emits
-    qDeleteAll(widgets);
-    widgets.clear();
 }
 
 void VakStandardInserterViewPrivate::addItem(int number)
@@ -136,46 +122,6 @@ void VakStandardInserterViewPrivate::showCoreMenu(const QPoint &pos)
     }
 }
 
-void VakStandardInserterViewPrivate::addCore(int number)
-{
-    if (!roomForCore(q, cores.size()))
-        return;
-    cores += new VAK::AoCore(number);
-    logNumbers(cores);
-    addPage(cores.constLast());
-    q->onModified();
-}
-
-void VakStandardInserterViewPrivate::addPage(VAK::AoCore *core)
-{
-    auto *page = new AoOptionWidget(core, netlist, q);
-    widgets += page;
-    q->addAoOptionWidget(page);
-}
-
-void VakStandardInserterViewPrivate::removeCore(int row)
-{
-    if (!removalConfirmed(q, cores.size(), row))
-        return;
-    AoOptionWidget *page = widgets.takeAt(row);
-    VAK::AoCore *core = page->core();
-    q->removeAoOptionWidget(page);
-    delete page;
-    cores.removeOne(core);
-    delete core;
-    renumber(cores);
-    qDebug("before changed");
-    logNumbers(cores);
-    qDebug("after changed");
-    logNumbers(cores);
-    q->onModified();
-}
-
-VakInserterView *VakStandardInserterViewPrivate::view() const
-{
-    return q;
-}
-
 QWidget *VakStandardInserterViewPrivate::bannerContainer() const
 {
     return q->ui->widget_3;
@@ -191,38 +137,24 @@ bool VakStandardInserterViewPrivate::isReadable() const
     return VAK::vakModeFromVakConfigFile(filePath) == VAK::VakMode::Standard && VAK::checkVAKStandardFile(filePath);
 }
 
-bool VakStandardInserterViewPrivate::readCores(QString *errorString)
+QList<VAK::AoCore *> VakStandardInserterViewPrivate::readFile(bool *ok, QString *errorString) const
 {
-    bool ok = false;
-    const QList<VAK::AoCore *> read = VAK::readVAKConfigFromXml(filePath, &ok, errorString);
-    if (!ok) {
-        qDeleteAll(read);
-        return false;
-    }
-    dropCores();
-    cores = read;
-    for (VAK::AoCore *core : read)
-        addPage(core);
-    if (cores.isEmpty())
-        addCore(0);
-    return true;
+    return VAK::readVAKConfigFromXml(filePath, ok, errorString);
 }
 
-void VakStandardInserterViewPrivate::dropCores()
+AoOptionWidget *VakStandardInserterViewPrivate::createPage(VAK::AoCore *core)
 {
-    while (!widgets.isEmpty()) {
-        AoOptionWidget *page = widgets.takeLast();
-        q->removeAoOptionWidget(page);
-        delete page;
-    }
-    qDeleteAll(cores);
-    cores.clear();
+    return new AoOptionWidget(core, netlist, q);
 }
 
-void VakStandardInserterViewPrivate::applyPages()
+void VakStandardInserterViewPrivate::putPage(AoOptionWidget *page)
 {
-    for (AoOptionWidget *page : qAsConst(widgets))
-        page->applyToCore();
+    q->addAoOptionWidget(page);
+}
+
+void VakStandardInserterViewPrivate::takePage(AoOptionWidget *page)
+{
+    q->removeAoOptionWidget(page);
 }
 
 bool VakStandardInserterViewPrivate::validate(QString *errors) const
@@ -235,23 +167,9 @@ QString VakStandardInserterViewPrivate::validationText() const
     return QStringLiteral("Your settings contain some errors.             "); // the blanks widen the box
 }
 
-void VakStandardInserterViewPrivate::setModuleName(const QString &name)
-{
-    for (VAK::AoCore *core : qAsConst(cores))
-        core->setModuleName(name);
-}
-
 bool VakStandardInserterViewPrivate::write(const QString &fileName) const
 {
     return VAK::writeVAKConfigToXml(cores, fileName);
-}
-
-void VakStandardInserterViewPrivate::setNetlist(std::unique_ptr<NETCATCHER::RtlNetlist> newNetlist)
-{
-    // The old one lives until no page points to it.
-    const std::unique_ptr<NETCATCHER::RtlNetlist> old(std::exchange(netlist, newNetlist.release()));
-    for (AoOptionWidget *page : qAsConst(widgets))
-        page->setRtlNetlist(netlist);
 }
 
 void VakStandardInserterViewPrivate::connectFileBanner(const ReloadBanner *banner) const

@@ -3,7 +3,11 @@
 
 #pragma once
 
-#include "views/inserterdocument.h"
+#include "views/coredocument.h"
+
+#include "capture/aooptionwidget.h"
+
+#include <VakUtils/aocore.h>
 
 #include <QList>
 #include <QObject>
@@ -15,19 +19,15 @@ class QModelIndex;
 class QPoint;
 class QTreeWidgetItem;
 
-namespace VAK {
-class AoCore;
-}
-
 namespace RTLVAK {
 
-class AoOptionWidget;
 class VakStandardInserterView;
 
 namespace private_impl {
 
 /// The state of a Standard view, and what its document does in its own way.
-class VakStandardInserterViewPrivate : public QObject, public InserterDocument
+class VakStandardInserterViewPrivate : public QObject,
+                                       public CoreDocument<VakStandardInserterViewPrivate, VAK::AoCore, AoOptionWidget>
 {
     Q_OBJECT
 
@@ -36,7 +36,6 @@ public:
     ~VakStandardInserterViewPrivate() override;
 
     void addChangedBanner();
-    void deletePages();
 
     void addItem(int number);
     void removeItem(int number);
@@ -58,34 +57,21 @@ public:
     bool netlistReadRunning = false;
 
 protected:
-    VakInserterView *view() const override;
     QWidget *bannerContainer() const override;
-    QFileSystemWatcher *fileWatcher() const override { return watcher; }
-    NETCATCHER::RtlNetlist *currentNetlist() const override { return netlist; }
-    QString &path() override { return filePath; }
-    bool &modifiedFlag() override { return modified; }
-    bool &fileChangeFlag() override { return fileChangePending; }
     bool &rtlReloadFlag() override;
-    bool &netlistReadFlag() override { return netlistReadRunning; }
-    void notify(bool isModified) override { notifyModified(isModified); }
-
     bool isReadable() const override;
-    bool readCores(QString *errorString) override;
+    QList<VAK::AoCore *> readFile(bool *ok, QString *errorString) const override;
+    AoOptionWidget *createPage(VAK::AoCore *core) override;
+    void putPage(AoOptionWidget *page) override;
+    void takePage(AoOptionWidget *page) override;
     void showFirstCore() override { showCore(0); }
-    void applyPages() override;
     bool validate(QString *errors) const override;
     QString validationText() const override;
-    void setModuleName(const QString &name) override;
     bool write(const QString &fileName) const override;
-    void setNetlist(std::unique_ptr<NETCATCHER::RtlNetlist> newNetlist) override;
     void connectFileBanner(const ReloadBanner *banner) const override;
     void connectDesignBanner(const ReloadBanner *banner) const override;
 
 private:
-    void addCore(int number);
-    void addPage(VAK::AoCore *core);
-    void removeCore(int row);
-    void dropCores();
     void showCoreOfKey(QTreeWidgetItem *item);
 };
 

@@ -12,6 +12,7 @@
 #include "support/doubles.h"
 #include "support/tempdir.h"
 #include "support/widgethelpers.h"
+#include "views/vakliteinserterview.h"
 #include "views/vakstandardinserterview.h"
 
 #include <Device/devicearg.h>
@@ -30,6 +31,7 @@
 #include <memory>
 
 using RTLVAK::VakInserterView;
+using RTLVAK::VakLiteInserterView;
 using RTLVAK::VakStandardInserterView;
 using RTLVAK::VakViewManager;
 using support::DialogDriver;
@@ -57,7 +59,7 @@ private slots:
     void viewsAreListedInOrderOfOpening();
     void invalidFileIsRefused_data();
     void invalidFileIsRefused();
-    void liteFileIsRefusedInOneLine();
+    void liteFileOpensInTheLiteView();
     void pathThatLooksLikeMarkupIsShownAsItIs();
     void boxesBelongToTheHostsDialogParent();
     void parentMayDieWhileItsBoxIsOpen();
@@ -319,20 +321,15 @@ void TestVakViewManager::invalidFileIsRefused()
     QVERIFY(fakes::viewCalls().isEmpty());
 }
 
-void TestVakViewManager::liteFileIsRefusedInOneLine()
+void TestVakViewManager::liteFileOpensInTheLiteView()
 {
     VAK::AOCore_Lite core(0);
     const QString path = dir->filePath("lite.rvk");
     QVERIFY(VAK::writeVAKConfigToXml_Lite({&core}, path));
-    DialogDriver driver;
-    driver.answerBox(QMessageBox::Ok);
-    QVERIFY(!VakViewManager::openInserterView(path, DEV::DeviceArg()));
-    const support::BoxRecord box = driver.boxes().at(0);
-    QCOMPARE(box.icon, QMessageBox::Critical);
-    QCOMPARE(box.title, QString("Error"));
-    QCOMPARE(box.text, "Can not open " + path + ": Lite mode is not supported yet.");
-    QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
-    QVERIFY(openViews().isEmpty());
+    QVERIFY(VakViewManager::openInserterView(path, DEV::DeviceArg()));
+    QCOMPARE(openViews().size(), 1);
+    QVERIFY(qobject_cast<VakLiteInserterView *>(openViews().first()));
+    QCOMPARE(openViews().first()->file(), path);
 }
 
 void TestVakViewManager::pathThatLooksLikeMarkupIsShownAsItIs()
