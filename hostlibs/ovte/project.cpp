@@ -32,12 +32,12 @@ static const TypeEntry typeTable[] = {
     {VerilogFile, "verilog", "Verilog", "v vl vlg verilog"},
     {SystemVerilogFile, "systemverilog", "SystemVerilog", "sv"},
     {VhdlFile, "vhdl", "VHDL", "vhd vhdl"},
-    {HdlIncludeFile, "include", "HDL include", "vh svh vinc inc"},
-    {MemoryContentFile, "memory", "Memory contents", "mem hex mif dat"},
-    {AnalyzerConfigFile, "analyzer", "Analyzer configuration", "rvk"},
-    {TimingConstraintFile, "timing", "Timing constraints", "sdc"},
-    {PhysicalConstraintFile, "physical", "Physical constraints", "pcf lpf"},
-    {GateNetlistFile, "netlist", "Gate netlist", "vg vm edf edif blif"},
+    {HdlIncludeFile, "include", "Include", "vh svh vinc inc"},
+    {MemoryContentFile, "memory", "Memory", "mem hex mif dat"},
+    {AnalyzerConfigFile, "analyzer", "Analyzer", "rvk"},
+    {TimingConstraintFile, "timing", "Timing", "sdc"},
+    {PhysicalConstraintFile, "physical", "Physical", "pcf lpf"},
+    {GateNetlistFile, "netlist", "Netlist", "vg vm edf edif blif"},
     {OtherFile, "other", "Other", ""},
 };
 

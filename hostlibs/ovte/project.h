@@ -42,7 +42,7 @@ HOST_EXPORT QStringList synthesisTools();
 HOST_EXPORT int fileTypeOfPath(const QString &path);
 /// The name of a FileType code in project files; empty for an unknown code.
 HOST_EXPORT QString fileTypeName(int type);
-/// The name of a FileType code for people: "Verilog", "Timing constraints".
+/// The name of a FileType code for people: "Verilog", "Timing".
 HOST_EXPORT QString fileTypeTitle(int type);
 /// The FileType code of a name in project files; -1 for an unknown name.
 HOST_EXPORT int fileTypeFromName(const QString &name);
