@@ -41,9 +41,8 @@ static QList<VAK::SignalItem> withoutUnusableBits(const QList<VAK::SignalItem> &
 static QString reasonOfNothingAdded(const QList<VAK::SignalItem> &asked, const QList<VAK::SignalItem> &usable)
 {
     if (asked.isEmpty())
-        return VakSignalSelectDialog::tr("Nothing to add: no bus or net is selected.");
-    return usable.isEmpty() ? VakSignalSelectDialog::tr("Nothing to add: no bit is usable.")
-                            : VakSignalSelectDialog::tr("Nothing to add: already chosen.");
+        return VakSignalSelectDialog::tr("Nothing selected");
+    return usable.isEmpty() ? VakSignalSelectDialog::tr("No usable bits") : VakSignalSelectDialog::tr("Already chosen");
 }
 
 } // namespace private_impl
@@ -145,6 +144,7 @@ void VakSignalSelectDialog::search()
     const ResultCount count = asHierarchy ? showHits(ui->treeWidget, searchHierarchy(netlist, wanted))
                                           : showHits(ui->treeWidget, searchFlat(netlist, wanted));
     ui->labelResults->setText(countText(count));
+    ui->treeWidget->scrollToTop();
 }
 
 SearchCriteria VakSignalSelectDialog::criteria() const

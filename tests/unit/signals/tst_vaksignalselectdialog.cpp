@@ -140,6 +140,7 @@ private slots:
     void hierarchyRowsCannotBeSelected();
     void hierarchyIsOpenWhereSomethingWasFound();
     void hierarchyViewNeedsTheAdvancedFilter();
+    void newResultsBeginAtTheTop();
 
     void addTakesSelectedRowsInTreeOrder();
     void addAllTakesEveryRow();
@@ -543,6 +544,18 @@ void TestVakSignalSelectDialog::hierarchyViewNeedsTheAdvancedFilter()
     QCOMPARE(f.search("cnt"), QStringList({"u1/cnt", "u1/u_add/cnt_en"}));
 }
 
+void TestVakSignalSelectDialog::newResultsBeginAtTheTop()
+{
+    Fixture f;
+    f.results.setFixedHeight(80);
+    f.dialog.show();
+    f.search("");
+    f.results.scrollToBottom();
+    QVERIFY(f.results.itemAt(5, 5) != f.results.topLevelItem(0));
+    f.search("");
+    QCOMPARE(f.results.itemAt(5, 5), f.results.topLevelItem(0));
+}
+
 void TestVakSignalSelectDialog::addTakesSelectedRowsInTreeOrder()
 {
     Fixture f;
@@ -582,7 +595,7 @@ void TestVakSignalSelectDialog::busWithoutUsableBitsIsNotAdded()
     f.search("mem");
     f.dialog.onAddAllSignal();
     QCOMPARE(f.chosenTexts(), QStringList());
-    QCOMPARE(f.chosenLabel.text(), QString("Nothing to add: no bit is usable."));
+    QCOMPARE(f.chosenLabel.text(), QString("No usable bits"));
 }
 
 void TestVakSignalSelectDialog::chosenRowsAreNotAddedAgain()
@@ -593,7 +606,7 @@ void TestVakSignalSelectDialog::chosenRowsAreNotAddedAgain()
     f.dialog.onAddSignal();
     f.dialog.onAddSignal();
     QCOMPARE(f.chosenTexts(), QStringList({"u1/sum[1:0]", "clk"}));
-    QCOMPARE(f.chosenLabel.text(), QString("Nothing to add: already chosen."));
+    QCOMPARE(f.chosenLabel.text(), QString("Already chosen"));
     f.dialog.onAddAllSignal();
     f.dialog.onAddAllSignal();
     QCOMPARE(f.chosenTexts(), QStringList({"u1/sum[1:0]", "clk", "data[3:0]", "rst", "vdd", "u1/cnt", "u1/u_add/carry",
@@ -620,7 +633,7 @@ void TestVakSignalSelectDialog::memberOfAResultIsNotAddedAlone()
     f.results.topLevelItem(0)->child(0)->setSelected(true);
     f.dialog.onAddSignal();
     QCOMPARE(f.chosenTexts(), QStringList());
-    QCOMPARE(f.chosenLabel.text(), QString("Nothing to add: no bus or net is selected."));
+    QCOMPARE(f.chosenLabel.text(), QString("Nothing selected"));
 }
 
 void TestVakSignalSelectDialog::addFromAHierarchy()
