@@ -88,6 +88,8 @@ protected:
             addPage(core);
         if (read.isEmpty())
             addCore(0);
+        if (self().netlist)
+            handOverNetlist(); // so that signals that it does not know show as gone
         return true;
     }
 
@@ -107,8 +109,7 @@ protected:
     {
         // The old one lives until no page points to it.
         const std::unique_ptr<NETCATCHER::RtlNetlist> old(std::exchange(self().netlist, newNetlist.release()));
-        for (Page *page : qAsConst(self().widgets))
-            page->setRtlNetlist(self().netlist);
+        handOverNetlist();
     }
 
     // What differs.
@@ -129,6 +130,12 @@ private:
         Page *page = createPage(core);
         self().widgets.append(page);
         putPage(page);
+    }
+
+    void handOverNetlist()
+    {
+        for (Page *page : qAsConst(self().widgets))
+            page->setRtlNetlist(self().netlist);
     }
 
     void dropCores()

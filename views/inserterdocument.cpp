@@ -135,11 +135,9 @@ bool InserterDocument::mayClose()
         showBox(view(), QMessageBox::Question, VakInserterView::tr("Save"),
                 VakInserterView::tr("Save changes to \"%1\" ?").arg(nativePath()),
                 QMessageBox::Ok | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Ok);
-    if (!guard)
-        return false;
     if (answer == QMessageBox::Ok)
-        return saveFile(); // deliberately without the question about the synthesis tool
-    return answer == QMessageBox::Discard;
+        return saveFile();                 // deliberately without the question about the synthesis tool
+    return answer == QMessageBox::Discard; // anything else, the death of the view included, closes nothing
 }
 
 void InserterDocument::markModified()

@@ -35,6 +35,7 @@ private slots:
     void reloadShowsTheFirstCore();
     void reloadOfAFileWithoutCoresAddsOne();
     void reloadKeepsTheNetlist();
+    void reloadShowsSignalsThatTheNetlistDoesNotKnow();
     void reloadWatchesTheFileFurther();
     void reloadWithAnotherNumberOfCores_data();
     void reloadWithAnotherNumberOfCores();
@@ -234,6 +235,24 @@ void TestStandardViewReload::reloadKeepsTheNetlist()
     fixture.view().onBannerReload();
     QCOMPARE(fakes::netsCalls().size(), 1);
     QVERIFY(fixture.view().save());
+}
+
+void TestStandardViewReload::reloadShowsSignalsThatTheNetlistDoesNotKnow()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    const QList<VAK::AoCore *> cores = VAK::readVAKConfigFromXml(fixture.path);
+    VAK::SignalItem gone;
+    gone.name = "gone";
+    cores.first()->setallCapSignal(cores.first()->getallCapSignal() << gone);
+    QVERIFY(VAK::writeVAKConfigToXml(cores, fixture.path));
+    qDeleteAll(cores);
+    fixture.view().onBannerReload();
+    auto &captured = child<QTreeWidget>(fixture.page(0), "treeWidgetCapSigs");
+    QCOMPARE(topTexts(captured), QStringList({"valid", "gone"}));
+    QVERIFY(captured.topLevelItem(0)->foreground(0).color() != QColor(Qt::red));
+    QCOMPARE(captured.topLevelItem(1)->foreground(0).color(), QColor(Qt::red));
+    QVERIFY(!fixture.view().isModified());
 }
 
 void TestStandardViewReload::reloadWatchesTheFileFurther()
