@@ -9,3 +9,5 @@
 int runDevices(const QStringList &arguments);
 /// Lists the nets and buses of a design.
 int runNets(const QStringList &arguments);
+/// Says what a configuration file holds.
+int runShow(const QStringList &arguments);

@@ -12,6 +12,7 @@
 
 static const Command commands[] = {
     {"devices", "list the devices and what they offer", runDevices},
+    {"show", "say what a configuration file holds", runShow},
     {"nets", "list the nets and buses of a design", runNets},
 };
 

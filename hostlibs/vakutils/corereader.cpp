@@ -186,8 +186,9 @@ static void readRoot(XmlCursor *cursor, XmlElement &root, const QString &mode)
                        QStringLiteral("%1, the only version known here").arg(Version));
     const QString found = root.text(QStringLiteral("mode"));
     if (found != mode) {
+        const bool known = found == Standard || found == Lite;
         cursor->failStructure(root.line(), root.column(), QStringLiteral("mode=\"%1\"").arg(shortened(found)),
-                              QStringLiteral("\"%1\"").arg(mode));
+                              known ? QStringLiteral("\"%1\"").arg(mode) : QStringLiteral("\"standard\" or \"lite\""));
     }
 }
 

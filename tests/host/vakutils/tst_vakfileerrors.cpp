@@ -94,7 +94,7 @@ void TestVakFileErrors::wrongStructureIsRefused_data()
     change("root", "<vak version=\"1\" mode=\"standard\">", "<vax version=\"1\" mode=\"standard\">",
            "line 2, column 1: found <vax>, expected <vak>");
     change("mode", "mode=\"standard\"", "mode=\"fancy\"",
-           "line 2, column 1: found mode=\"fancy\", expected \"standard\"");
+           "line 2, column 1: found mode=\"fancy\", expected \"standard\" or \"lite\"");
     change("no version", "version=\"1\" ", "",
            "line 2, column 1: found <vak>, expected the attribute \"version\" in it");
     change("no index", "<core index=\"0\"", "<core",
