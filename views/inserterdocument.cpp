@@ -279,6 +279,7 @@ void InserterDocument::onRtlReload(QWidget *banner)
         rtlReloadFlag() = false;
         return;
     }
+    keepUnsavedWork();
     clearModified();
     closeContainer();
 }
@@ -311,6 +312,17 @@ void InserterDocument::removeBanner(QWidget *banner)
     banner->hide();
     bannerContainer()->layout()->removeWidget(banner);
     banner->deleteLater(); // its button is still about to return from the click
+}
+
+/// Writes what the view is about to lose beside its file, where the host finds it when the file is opened again.
+void InserterDocument::keepUnsavedWork()
+{
+    if (!modifiedFlag())
+        return;
+    applyPages();
+    const QString copy = path() + QStringLiteral(".recovered");
+    if (!write(copy))
+        qWarning("can not keep the unsaved work on %s in %s", qUtf8Printable(path()), qUtf8Printable(copy));
 }
 
 void InserterDocument::closeContainer()

@@ -113,6 +113,7 @@ private:
     void showBanner(ReloadBanner *banner);
     void removeBanner(QWidget *banner);
     void clearModified();
+    void keepUnsavedWork();
     void closeContainer();
 };
 

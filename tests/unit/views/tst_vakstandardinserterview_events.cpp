@@ -3,6 +3,7 @@
 
 #include "viewfixture.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -35,6 +36,9 @@ private slots:
     void aFailedReloadClosesTheContainerWithoutAQuestion();
     void aFailedReloadOfAnUnmodifiedViewEmitsNothing();
     void aFailedReloadWithoutContainerStaysOpen();
+    void aFailedReloadKeepsUnsavedWorkBesideTheFile();
+    void aFailedReloadOfAnUnmodifiedViewKeepsNothing();
+    void aFailedReloadClosesEvenWhenNothingCanBeKept();
     void cancelKeepsTheOldNetlist();
     void afterCancelTheNextEventAsksAgain();
     void viewMayDieInAFailedReload();
@@ -247,6 +251,44 @@ void TestStandardViewEvents::aFailedReloadWithoutContainerStaysOpen()
     view.onRtlReload();
     QVERIFY(view.isVisible());
     QVERIFY(!view.testAttribute(Qt::WA_DeleteOnClose));
+}
+
+void TestStandardViewEvents::aFailedReloadKeepsUnsavedWorkBesideTheFile()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open(2));
+    const QByteArray before = fixture.dir.read("some.rvk");
+    fixture.editClock(1, "clk2");
+    fakes::deliverNull();
+    fixture.view().onRtlReload();
+    QVERIFY(fixture.container().isHidden());
+    QCOMPARE(clocksInFile(fixture.dir.filePath("some.rvk.recovered")), QStringList({"clk", "clk2"}));
+    QCOMPARE(fixture.dir.read("some.rvk"), before);
+    QCOMPARE(fixture.driver.shownCount(), 0);
+}
+
+void TestStandardViewEvents::aFailedReloadOfAnUnmodifiedViewKeepsNothing()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    fakes::deliverNull();
+    fixture.view().onRtlReload();
+    QVERIFY(fixture.container().isHidden());
+    QVERIFY(!QFile::exists(fixture.dir.filePath("some.rvk.recovered")));
+}
+
+void TestStandardViewEvents::aFailedReloadClosesEvenWhenNothingCanBeKept()
+{
+    ViewFixture fixture;
+    fixture.dir.write("sub/other", {});
+    QVERIFY(fixture.open(1, "sub/some.rvk"));
+    fixture.editClock(0, "clk2");
+    QVERIFY(QDir(fixture.dir.filePath("sub")).removeRecursively());
+    fakes::deliverNull();
+    const QString warning = "can not keep the unsaved work on " + fixture.path + " in " + fixture.path + ".recovered";
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+    fixture.view().onRtlReload();
+    QVERIFY(fixture.container().isHidden());
 }
 
 void TestStandardViewEvents::cancelKeepsTheOldNetlist()
