@@ -1,17 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The RtlVakIns authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "hostlibs/netcatcher/netlistbuilder.h"
+#include "hostlibs/ovte/projectengine.h"
 #include "hostlibs/ovte/projectfile.h"
+#include "rules/corevalidation.h"
 
+#include <OVTE/designmanager.h>
 #include <OVTE/designtypes.h>
+#include <OVTE/taskengine.h>
 #include <VakUtils/aocore.h>
 #include <VakUtils/aocorelite.h>
+#include <VakUtils/triggerport.h>
 #include <VakUtils/vakfile.h>
+#include <netcatcher/rtlnetlist.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <memory>
 
 /// The example that comes with the program: what the README and the guide promise about it.
 class TestExample : public QObject
@@ -24,7 +33,8 @@ private slots:
     void onlyWhatIsForSimulationIsDisabled();
     void standardFileIsInTheFormThatSavingGives();
     void liteFileIsInTheFormThatSavingGives();
-    void everyCoreOfTheStandardFileHasACompleteTrigger();
+    void standardFilePassesTheValidationAgainstTheDesign();
+    void everySignalNamesANetOfTheDesign();
 
 private:
     static TE::Project project();
@@ -118,16 +128,65 @@ void TestExample::liteFileIsInTheFormThatSavingGives()
     QCOMPARE(bytesOf(copy), bytesOf(path));
 }
 
-void TestExample::everyCoreOfTheStandardFileHasACompleteTrigger()
+/// The netlist of the example, read by the engine; null when that failed.
+static std::unique_ptr<NETCATCHER::RtlNetlist> readNetlist(const QString &projectFile)
 {
+    QString error;
+    if (!TE::ProjectEngine::instance()->openProject(projectFile, &error)) {
+        qWarning("%s", qPrintable(error));
+        return nullptr;
+    }
+    const QMap<QString, QVariant> info = TE::TaskEngine::instance()->designManager()->getSourceFileInfo();
+    NETCATCHER::NetlistBuilder builder(NETCATCHER::DesignSources::fromSourceInfo(info));
+    if (!builder.analyse()) {
+        qWarning("%s", qPrintable(builder.messages().join('\n')));
+        return nullptr;
+    }
+    return builder.build(&error);
+}
+
+static QStringList namesOf(const QList<VAK::SignalItem> &items)
+{
+    QStringList names;
+    for (const VAK::SignalItem &item : items)
+        names += item.members.isEmpty() ? QStringList(item.name) : namesOf(item.members);
+    return names;
+}
+
+void TestExample::standardFilePassesTheValidationAgainstTheDesign()
+{
+    const std::unique_ptr<NETCATCHER::RtlNetlist> netlist = readNetlist(folder.filePath("soc.vakproj"));
+    QVERIFY(netlist);
+    const QList<VAK::AoCore *> cores = VAK::readVAKConfigFromXml(folder.filePath("standard.rvk"));
+    QString errors;
+    const bool valid = RTLVAK::validateCores(cores, netlist.get(), &errors);
+    qDeleteAll(cores);
+    QVERIFY2(valid, qPrintable(errors));
+}
+
+void TestExample::everySignalNamesANetOfTheDesign()
+{
+    const std::unique_ptr<NETCATCHER::RtlNetlist> netlist = readNetlist(folder.filePath("soc.vakproj"));
+    QVERIFY(netlist);
+    QStringList names;
     const QList<VAK::AoCore *> cores = VAK::readVAKConfigFromXml(folder.filePath("standard.rvk"));
     for (const VAK::AoCore *core : cores) {
-        QVERIFY(!core->availableTriggers().isEmpty());
-        QVERIFY(!core->enabledMatchUnits().isEmpty());
-        QVERIFY(!core->expressions().isEmpty());
-        QVERIFY(!core->getDataSignal().isEmpty());
+        names += namesOf(core->getallCapSignal());
+        for (const VAK::TriggerPort *port : core->availableTriggers())
+            names += namesOf(port->getSignalNet());
     }
     qDeleteAll(cores);
+    const QList<VAK::AOCore_Lite *> liteCores = VAK::readVAKConfigFromXml_Lite(folder.filePath("lite.rvk"));
+    for (const VAK::AOCore_Lite *core : liteCores)
+        names += namesOf(core->getallCapSignal()) << core->sampleClock();
+    qDeleteAll(liteCores);
+
+    QVERIFY(names.size() > 250);
+    for (const QString &name : qAsConst(names)) {
+        const NETCATCHER::RtlNet *net = netlist->findNet(name);
+        QVERIFY2(net, qPrintable(name + " is not in the design"));
+        QVERIFY2(!net->isUnusable(), qPrintable(name + " is unusable"));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestExample)
