@@ -4,6 +4,7 @@
 #include "workbench/appearance.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -43,6 +44,12 @@ void applyAppearance(QApplication &application)
 {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(lightPalette());
+    // Without a desktop nobody has chosen a font, and the toolkit's own is larger than any desktop's.
+    if (QGuiApplication::platformName() == "offscreen") {
+        QFont font = QApplication::font();
+        font.setPointSize(10);
+        QApplication::setFont(font);
+    }
     application.setStyleSheet(
         "QToolTip { color: #1c222a; background: #fffdf0; border: 1px solid #c9ccd1; padding: 2px; }");
 }

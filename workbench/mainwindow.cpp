@@ -34,6 +34,12 @@
 #include <QToolBar>
 #include <QToolButton>
 
+/// The linker drops the pictures of a static library unless they are asked for, which must be done outside a namespace.
+static void loadPictures()
+{
+    Q_INIT_RESOURCE(workbench);
+}
+
 namespace Workbench {
 
 /// The actions of the menus, in the order in which they appear there.
@@ -78,6 +84,7 @@ MainWindow::MainWindow(const PluginHost &plugins, QWidget *parent)
     , m_project(new ProjectController(*m_documents, this))
     , m_recent(new RecentFiles(this))
 {
+    loadPictures();
     setObjectName("mainWindow");
     setWindowIcon(QIcon(":/workbench/image/rtlvak.png"));
     setCentralWidget(m_area);
