@@ -16,6 +16,7 @@
 #include <IdeCore/iview.h>
 #include <IdeCore/viewmanager.h>
 #include <VakUtils/aocore.h>
+#include <VakUtils/aocorelite.h>
 #include <VakUtils/matchunit.h>
 #include <VakUtils/triggerport.h>
 #include <VakUtils/vakfile.h>
@@ -52,6 +53,7 @@ private slots:
     void realFileOpensInAView();
     void editedFileIsSavedByTheHost();
     void openingAgainShowsTheSameView();
+    void liteFileOpensInATabOfItsOwn();
     void refusalKeepsTheViewOpen();
     void viewClosesAndIsForgotten();
     void shutdownEndsTheManager();
@@ -215,6 +217,24 @@ void TestPluginLife::openingAgainShowsTheSameView()
                                              DEV::DeviceArg()));
     QCOMPARE(VakViewManager::instance()->vakViews(), before);
     QCOMPARE(area->views().size(), 1);
+}
+
+void TestPluginLife::liteFileOpensInATabOfItsOwn()
+{
+    VakInserterView *first = VakViewManager::instance()->vakViews().at(0);
+    const QString path = dir.filePath("lite.rvk");
+    VAK::AOCore_Lite core(0);
+    QVERIFY(VAK::writeVAKConfigToXml_Lite({&core}, path));
+    DialogDriver driver;
+    QVERIFY(VakViewManager::openInserterView(path, DEV::DeviceArg()));
+    QCOMPARE(area->views().size(), 2);
+    QCOMPARE(area->activeView(), VakViewManager::instance()->vakViews().last());
+    QCOMPARE(area->activeView()->windowTitle(), QString("lite.rvk"));
+
+    QVERIFY(VakViewManager::closeInserterView(path));
+    QCOMPARE(VakViewManager::instance()->vakViews(), QList<VakInserterView *>({first}));
+    QCOMPARE(area->activeView(), first);
+    QCOMPARE(driver.shownCount(), 0);
 }
 
 void TestPluginLife::refusalKeepsTheViewOpen()
