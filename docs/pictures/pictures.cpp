@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Renders the pictures of a core's page and of the dialogs of its trigger from the example into a folder:
+// render_pictures EXAMPLE_FOLDER TARGET_FOLDER
+
+#include "capture/aooptionwidget.h"
+#include "hostlibs/ovte/projectengine.h"
+#include "trigger/muexpressiondialog.h"
+#include "trigger/triggerportdialog.h"
+#include "trigger/triggersingalselectdialog.h"
+
+#include <VakUtils/aocore.h>
+#include <VakUtils/matchunitdialog.h>
+#include <VakUtils/vakfile.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QPushButton>
+#include <QTreeWidget>
+
+static void render(QWidget &widget, const QDir &folder, const char *name)
+{
+    widget.show();
+    QCoreApplication::processEvents();
+    if (!widget.grab().save(folder.filePath(QLatin1String(name))))
+        qFatal("cannot write %s", name);
+}
+
+static void renderPage(VAK::AoCore &core, const QDir &folder)
+{
+    RTLVAK::AoOptionWidget page(&core, nullptr);
+    page.resize(900, 600);
+    auto *ports = page.findChild<QTreeWidget *>(QStringLiteral("treeTrigger"));
+    for (int port : {1, 2})
+        ports->topLevelItem(port)->setExpanded(true);
+    render(page, folder, "trigger.png");
+    page.setCurrentIndex(1);
+    render(page, folder, "capture.png");
+}
+
+static void renderDialogs(VAK::AoCore &core, const QDir &folder)
+{
+    RTLVAK::TriggerPortDialog port(core.getTrigger(1), nullptr);
+    render(port, folder, "trigger-port.png");
+    RTLVAK::TriggerSingalSelectDialog picker(core.availableTriggers());
+    picker.findChild<QCheckBox *>()->setChecked(true);
+    render(picker, folder, "add-from-trigger.png");
+    VAK::MatchUnitDialog unit(core.matchUnit(0), false);
+    render(unit, folder, "match-unit.png");
+    RTLVAK::MuExpressionDialog expression;
+    expression.show();
+    for (const char *button :
+         {"btnM0", "btnAND", "btnLeftBracket", "btnM1", "btnOR", "btnNOT", "btnM2", "btnRightBracket"})
+        expression.findChild<QPushButton *>(QLatin1String(button))->click();
+    render(expression, folder, "expression.png");
+}
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    if (argc != 3)
+        qFatal("usage: render_pictures EXAMPLE_FOLDER TARGET_FOLDER");
+    const QDir example(QString::fromLocal8Bit(argv[1]));
+    QString error;
+    if (!TE::ProjectEngine::instance()->openProject(example.absoluteFilePath(QStringLiteral("soc.vakproj")), &error))
+        qFatal("%s", qPrintable(error));
+    bool ok = false;
+    const auto cores = VAK::readVAKConfigFromXml(example.absoluteFilePath(QStringLiteral("standard.rvk")), &ok, &error);
+    if (!ok || cores.size() < 2)
+        qFatal("%s", qPrintable(error));
+    renderPage(*cores.at(1), QDir(QString::fromLocal8Bit(argv[2])));
+    renderDialogs(*cores.at(1), QDir(QString::fromLocal8Bit(argv[2])));
+    qDeleteAll(cores);
+    return 0;
+}
