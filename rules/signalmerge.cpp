@@ -97,8 +97,9 @@ public:
             const int position = positions.value(identity, -2);
             if (position >= 0) {
                 bringUpToDate(records[position], record);
-                if (matched && !matched->contains(position))
+                if (matched && !seen.contains(position))
                     matched->append(position);
+                seen.insert(position);
             } else if (position == -2) {
                 insert(identity, Added);
                 added.append(record);
@@ -118,6 +119,7 @@ private:
 
     QList<VAK::SignalItem> &records;
     QHash<Identity, int> positions;
+    QSet<int> seen; ///< positions that were matched
 };
 
 static QStringList groupTexts(const QList<VAK::SignalItem> &records)

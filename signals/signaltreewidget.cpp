@@ -24,6 +24,8 @@ signalTreeWidget::signalTreeWidget(QWidget *parent)
     setDragDropMode(QAbstractItemView::InternalMove);
     setDefaultDropAction(Qt::MoveAction);
     setDragDropOverwriteMode(false);
+    // The menu opens at the press. The context menu event of that same press must not open another one around the tree.
+    setContextMenuPolicy(Qt::PreventContextMenu);
     createActions();
 }
 
@@ -79,7 +81,8 @@ int signalTreeWidget::mergeSignals(int row, const QList<VAK::SignalItem> &incomi
     QList<QTreeWidgetItem *> matched;
     for (int position : merge.matched) {
         matched.append(topLevelItem(position));
-        updateSignalRow(matched.last(), merge.existing.at(position));
+        if (*recordOfRow(matched.last()) != merge.existing.at(position))
+            updateSignalRow(matched.last(), merge.existing.at(position));
     }
     const QList<VAK::SignalItem> added = merge.singles + merge.groups;
     insertSignals(row, added);

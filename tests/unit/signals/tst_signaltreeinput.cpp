@@ -7,6 +7,7 @@
 #include "support/widgethelpers.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -53,6 +54,7 @@ private slots:
     void menuEntriesFollowTheSelection_data();
     void menuEntriesFollowTheSelection();
     void rightPressDoesNotChangeTheSelection();
+    void rightPressOpensNoMenuAroundTheTree();
     void otherButtonsAreIgnored();
     void leftPressSelects();
     void menuEntryRunsItsAction();
@@ -144,6 +146,27 @@ void TestSignalTreeInput::rightPressDoesNotChangeTheSelection()
     QTRY_COMPARE(driver.menus().size(), 1);
     QCOMPARE(tree.selectedNames(), QStringList({"a", "b"}));
     QCOMPARE(tree.currentItem(), tree.row(1));
+}
+
+void TestSignalTreeInput::rightPressOpensNoMenuAroundTheTree()
+{
+    struct Surroundings : QWidget
+    {
+        void contextMenuEvent(QContextMenuEvent *) override { ++asked; }
+        int asked = 0;
+    };
+    Surroundings surroundings;
+    auto *layout = new QVBoxLayout(&surroundings);
+    auto *tree = new TreeFixture({net("a")});
+    auto *plain = new QTreeWidget;
+    layout->addWidget(plain);
+    layout->addWidget(tree);
+    surroundings.show();
+    for (QTreeWidget *widget : {plain, static_cast<QTreeWidget *>(tree)}) {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), widget->viewport()->mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(widget->viewport(), &event);
+    }
+    QCOMPARE(surroundings.asked, 1); // the plain tree's
 }
 
 void TestSignalTreeInput::otherButtonsAreIgnored()
