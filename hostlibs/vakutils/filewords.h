@@ -10,22 +10,28 @@
 namespace VAK {
 namespace FileWords {
 
-constexpr QLatin1String Root("vak");
-constexpr QLatin1String Core("core");
-constexpr QLatin1String Clock("clock");
-constexpr QLatin1String Trigger("trigger");
-constexpr QLatin1String Port("port");
-constexpr QLatin1String Unit("unit");
-constexpr QLatin1String Expression("expression");
-constexpr QLatin1String Capture("capture");
-constexpr QLatin1String Net("net");
-constexpr QLatin1String Bus("bus");
-constexpr QLatin1String Group("group");
-constexpr QLatin1String Bit("bit");
+template <int Size>
+constexpr QLatin1String latin1(const char (&text)[Size])
+{
+    return QLatin1String(text, Size - 1);
+}
 
-constexpr QLatin1String Standard("standard");
-constexpr QLatin1String Lite("lite");
-constexpr QLatin1String NoPort("none");
+constexpr QLatin1String Root = latin1("vak");
+constexpr QLatin1String Core = latin1("core");
+constexpr QLatin1String Clock = latin1("clock");
+constexpr QLatin1String Trigger = latin1("trigger");
+constexpr QLatin1String Port = latin1("port");
+constexpr QLatin1String Unit = latin1("unit");
+constexpr QLatin1String Expression = latin1("expression");
+constexpr QLatin1String Capture = latin1("capture");
+constexpr QLatin1String Net = latin1("net");
+constexpr QLatin1String Bus = latin1("bus");
+constexpr QLatin1String Group = latin1("group");
+constexpr QLatin1String Bit = latin1("bit");
+
+constexpr QLatin1String Standard = latin1("standard");
+constexpr QLatin1String Lite = latin1("lite");
+constexpr QLatin1String NoPort = latin1("none");
 
 /// In the order of SampleEdge, TriggerMode, Implementation and CounterMode.
 inline QStringList edges()

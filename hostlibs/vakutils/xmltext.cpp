@@ -5,6 +5,8 @@
 
 #include "xmlcursor.h"
 
+#include <algorithm>
+
 namespace VAK {
 
 static bool isXmlCharacter(const QString &text, int i)
@@ -18,9 +20,20 @@ static bool isXmlCharacter(const QString &text, int i)
     return code >= 0x20 ? code < 0xFFFE : code == '\t' || code == '\n' || code == '\r';
 }
 
+/// Most names need no second look.
+static bool isPlain(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar character) {
+        const ushort code = character.unicode();
+        return code >= ' ' && code < 0x7F && code != '&' && code != '<' && code != '>' && code != '"';
+    });
+}
+
 /// `inAttribute`: blanks other than the space are written as references there, since a reader turns them into spaces.
 static QString escaped(const QString &text, bool inAttribute)
 {
+    if (isPlain(text))
+        return text;
     QString result;
     result.reserve(text.size() + 8);
     for (int i = 0; i < text.size(); ++i) {
