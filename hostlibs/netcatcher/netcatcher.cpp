@@ -7,33 +7,57 @@
 #include "netlistprogressdialog.h"
 
 #include <QMessageBox>
+#include <QPointer>
 
 namespace NETCATCHER {
 
-/// The engine run that both calls share. Its result is dropped once a netlist was made of it, its sources are kept.
+namespace {
+
+/// The progress dialog of one call. It is on the heap, since its parent may go while events are processed.
+class Display
+{
+public:
+    explicit Display(QWidget *parent)
+        : m_dialog(new NetlistProgressDialog(parent))
+    {
+    }
+    ~Display() { delete m_dialog; }
+    Display(const Display &) = delete;
+    Display &operator=(const Display &) = delete;
+
+    ProgressFunction reporter() const
+    {
+        return [dialog = m_dialog](const BuildProgress &progress) {
+            if (dialog)
+                dialog->report(progress);
+        };
+    }
+
+private:
+    QPointer<NetlistProgressDialog> m_dialog;
+};
+
+} // namespace
+
+/// The engine run that both calls share. Its result is dropped once a netlist was made of it; the sources are kept.
 static std::unique_ptr<NetlistBuilder> &lastBuilder()
 {
     static std::unique_ptr<NetlistBuilder> builder;
     return builder;
 }
 
-static std::unique_ptr<NetlistBuilder> analysed(const DesignSources &sources, NetlistProgressDialog &dialog)
-{
-    auto builder = std::make_unique<NetlistBuilder>(sources);
-    builder->setProgress([&dialog](const BuildProgress &progress) { dialog.report(progress); });
-    builder->analyse();
-    return builder;
-}
-
 void catchRtlModules(QStringList &tops, QStringList &modules, QStringList &messages,
                      QMap<QString, QVariant> &sourceInfo, QWidget *parent)
 {
-    NetlistProgressDialog dialog(parent);
-    lastBuilder() = analysed(DesignSources::fromSourceInfo(sourceInfo), dialog);
-    lastBuilder()->setProgress([](const BuildProgress &) {});
-    tops += lastBuilder()->tops();
-    modules += lastBuilder()->modules();
-    messages += lastBuilder()->messages();
+    auto builder = std::make_unique<NetlistBuilder>(DesignSources::fromSourceInfo(sourceInfo));
+    {
+        const Display display(parent);
+        builder->analyse(display.reporter());
+    }
+    tops += builder->tops();
+    modules += builder->modules();
+    messages += builder->messages();
+    lastBuilder() = std::move(builder);
 }
 
 static std::unique_ptr<RtlNetlist> buildNetlist(QString *error, QWidget *parent)
@@ -42,23 +66,22 @@ static std::unique_ptr<RtlNetlist> buildNetlist(QString *error, QWidget *parent)
         *error = QStringLiteral("No design was read.");
         return nullptr;
     }
-    NetlistProgressDialog dialog(parent);
-    std::unique_ptr<NetlistBuilder> builder = std::move(lastBuilder());
-    if (!builder->isAnalysed())
-        builder = analysed(builder->sources(), dialog);
-    builder->setProgress([&dialog](const BuildProgress &progress) { dialog.report(progress); });
-    std::unique_ptr<RtlNetlist> netlist = builder->build(error);
+    const Display display(parent);
+    const std::unique_ptr<NetlistBuilder> builder = std::move(lastBuilder());
     lastBuilder() = std::make_unique<NetlistBuilder>(builder->sources());
-    return netlist;
+    if (!builder->isAnalysed())
+        builder->analyse(display.reporter());
+    return builder->build(error, display.reporter());
 }
 
 void catchRtlNetsWithProgressDialog(RtlNetlist **out, QStringList &paths, QWidget *parent)
 {
     Q_UNUSED(paths)
     QString error;
+    const QPointer<QWidget> guard(parent);
     *out = buildNetlist(&error, parent).release();
     if (!*out)
-        QMessageBox::critical(parent, QStringLiteral("Error"), error, QMessageBox::Ok);
+        QMessageBox::critical(guard, QStringLiteral("Error"), error, QMessageBox::Ok);
 }
 
 } // namespace NETCATCHER

@@ -20,49 +20,47 @@ static bool isBlackBox(const RawModule &module)
     return BlackBoxes::isStandIn(module.file);
 }
 
+static ProgressFunction orNothing(const ProgressFunction &progress)
+{
+    return progress ? progress : [](const BuildProgress &) {};
+}
+
 NetlistBuilder::NetlistBuilder(const DesignSources &sources)
     : m_sources(sources)
-    , m_progress([](const BuildProgress &) {})
 {
 }
 
 NetlistBuilder::~NetlistBuilder() = default;
-
-void NetlistBuilder::setProgress(const ProgressFunction &progress)
-{
-    m_progress = progress;
-}
 
 void NetlistBuilder::setLimits(const EngineLimits &limits)
 {
     m_limits = limits;
 }
 
-bool NetlistBuilder::analyse()
+bool NetlistBuilder::analyse(const ProgressFunction &progress)
 {
     m_isAnalysed = true;
-    VerilatorEngine engine(m_sources, m_limits, m_progress);
-    const bool hasResult = engine.run();
+    const ProgressFunction report = orNothing(progress);
+    VerilatorEngine engine(m_sources, m_limits, report);
+    const VerilatorEngine::Outcome outcome = engine.run();
     m_messages = engine.messages();
     m_genvars = engine.genvars();
-    if (engine.isTopMissing()) {
-        m_tops = engine.declaredRoots();
-        return true;
-    }
-    if (!hasResult || !readResult(engine.xmlPath()))
+    if (outcome == VerilatorEngine::Failed ||
+        (outcome == VerilatorEngine::Done && !readResult(engine.xmlPath(), report)))
         return false;
-    listModules(m_sources.top.isEmpty() ? QStringList() : engine.declaredModules());
+    if (outcome == VerilatorEngine::Done)
+        listModules(m_sources.top.isEmpty() ? QStringList() : engine.declaredModules());
     if (!m_sources.top.isEmpty() && m_tops.isEmpty())
         m_tops = engine.declaredRoots();
     return true;
 }
 
-bool NetlistBuilder::readResult(const QString &xmlPath)
+bool NetlistBuilder::readResult(const QString &xmlPath, const ProgressFunction &progress)
 {
     QFile file(xmlPath);
     QString error = file.errorString();
-    const auto progress = [&](qint64 bytes) { m_progress({BuildProgress::ReadingResult, bytes, file.size()}); };
-    if (file.open(QIODevice::ReadOnly) && readVerilatorXml(file, m_design, progress, &error))
+    const auto report = [&](qint64 bytes) { progress({BuildProgress::ReadingResult, bytes, file.size()}); };
+    if (file.open(QIODevice::ReadOnly) && readVerilatorXml(file, m_design, report, &error))
         return true;
     m_design = RawDesign();
     m_messages.append(QStringLiteral("ERROR: The result of the Verilog engine cannot be read: %1").arg(error));
@@ -98,7 +96,7 @@ QByteArray NetlistBuilder::topKey() const
     return found == m_design.modules.end() ? QByteArray() : found->key;
 }
 
-std::unique_ptr<RtlNetlist> NetlistBuilder::build(QString *error)
+std::unique_ptr<RtlNetlist> NetlistBuilder::build(QString *error, const ProgressFunction &progress)
 {
     if (m_tops.size() != 1 || topKey().isEmpty()) {
         const auto isError = [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); };
@@ -111,7 +109,7 @@ std::unique_ptr<RtlNetlist> NetlistBuilder::build(QString *error)
             *error = QStringLiteral("The design has no top module.");
         return nullptr;
     }
-    m_progress({BuildProgress::BuildingNetlist, 0, 0});
+    orNothing(progress)({BuildProgress::BuildingNetlist, 0, 0});
     ExpansionOptions options;
     options.top = topKey();
     options.isBlackBox = isBlackBox;

@@ -15,18 +15,17 @@
 namespace NETCATCHER {
 
 /// Builds the netlist of a design, without a screen: analyse() runs the engine once, build() makes the netlist from its
-/// result. Blocks while it works; `progress` is called often enough to keep a display alive.
+/// result. Both block while they work and call `progress` often enough to keep a display alive.
 class NetlistBuilder
 {
 public:
     explicit NetlistBuilder(const DesignSources &sources);
     ~NetlistBuilder();
 
-    void setProgress(const ProgressFunction &progress);
     void setLimits(const EngineLimits &limits);
 
     /// Reads the sources. False when the design has errors; messages() tells them.
-    bool analyse();
+    bool analyse(const ProgressFunction &progress = {});
 
     const DesignSources &sources() const { return m_sources; }
     /// Whether analyse() was called.
@@ -39,16 +38,15 @@ public:
     const QStringList &messages() const { return m_messages; }
 
     /// The netlist below the only top; null, with `error` set, when there is none.
-    std::unique_ptr<RtlNetlist> build(QString *error);
+    std::unique_ptr<RtlNetlist> build(QString *error, const ProgressFunction &progress = {});
 
 private:
-    bool readResult(const QString &xmlPath);
+    bool readResult(const QString &xmlPath, const ProgressFunction &progress);
     void listModules(const QStringList &declared);
     QByteArray topKey() const;
 
     const DesignSources m_sources;
     EngineLimits m_limits;
-    ProgressFunction m_progress;
     QStringList m_tops;
     QStringList m_modules;
     QStringList m_messages;

@@ -3,11 +3,13 @@
 
 #include "netlistprogressdialog.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
-#include <QVBoxLayout>
+
+#include <limits>
 
 namespace NETCATCHER {
 
@@ -15,31 +17,33 @@ constexpr int repaintMs = 40;
 constexpr int barSteps = 1000;
 
 NetlistProgressDialog::NetlistProgressDialog(QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
-    , m_stage(new QLabel(this))
-    , m_elapsed(new QLabel(this))
+    : QProgressDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    , m_text(new QLabel(this))
     , m_bar(new QProgressBar(this))
 {
     setWindowTitle(QStringLiteral("Reading the RTL netlist"));
     setWindowModality(Qt::ApplicationModal);
-    m_stage->setObjectName(QStringLiteral("labelStage"));
-    m_elapsed->setObjectName(QStringLiteral("labelElapsed"));
-    m_bar->setObjectName(QStringLiteral("progressBar"));
+    setCancelButton(nullptr);
+    setMinimumDuration(std::numeric_limits<int>::max()); // shown by report(), not by a timer
+    m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_bar->setTextVisible(false);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_stage);
-    layout->addWidget(m_bar);
-    layout->addWidget(m_elapsed);
-    setMinimumWidth(360);
+    setLabel(m_text);
+    setBar(m_bar);
+    setMinimumWidth(380);
     m_timer.start();
     m_sinceRepaint.start();
 }
 
 void NetlistProgressDialog::reject() {}
 
-static QString stageText(const BuildProgress &progress)
+void NetlistProgressDialog::closeEvent(QCloseEvent *event)
 {
-    switch (progress.stage) {
+    event->ignore();
+}
+
+static QString stageText(BuildProgress::Stage stage)
+{
+    switch (stage) {
     case BuildProgress::ReadingSources:
         return QStringLiteral("Reading the source files");
     case BuildProgress::RunningEngine:
@@ -54,18 +58,17 @@ static QString stageText(const BuildProgress &progress)
 
 void NetlistProgressDialog::showStage(const BuildProgress &progress)
 {
-    QString text = stageText(progress);
+    QString text = stageText(progress.stage);
     if (progress.totalBytes > 0) {
         const QLocale locale;
-        text += QStringLiteral(": %1 of %2")
+        text += QStringLiteral(", %1 of %2")
                     .arg(locale.formattedDataSize(progress.doneBytes), locale.formattedDataSize(progress.totalBytes));
         m_bar->setRange(0, barSteps);
         m_bar->setValue(int(progress.doneBytes * barSteps / progress.totalBytes));
     } else {
         m_bar->setRange(0, 0);
     }
-    m_stage->setText(text);
-    m_elapsed->setText(QStringLiteral("%1 s").arg(m_timer.elapsed() / 1000));
+    m_text->setText(QStringLiteral("%1\nElapsed: %2 s").arg(text).arg(m_timer.elapsed() / 1000));
 }
 
 void NetlistProgressDialog::report(const BuildProgress &progress)

@@ -5,8 +5,8 @@
 
 #include "buildprogress.h"
 
-#include <QDialog>
 #include <QElapsedTimer>
+#include <QProgressDialog>
 
 class QLabel;
 class QProgressBar;
@@ -15,25 +15,28 @@ namespace NETCATCHER {
 
 /// Shows how far the building of a netlist is: stage, bytes where they are known, and the time that passed. It blocks
 /// the application's other windows and cannot be closed by the user.
-class NetlistProgressDialog : public QDialog
+class NetlistProgressDialog : public QProgressDialog
 {
     Q_OBJECT
 
 public:
     explicit NetlistProgressDialog(QWidget *parent);
 
-    /// Shows the state and lets the dialog repaint itself.
+    /// Shows the state and lets the windows repaint themselves.
     void report(const BuildProgress &progress);
 
 public slots:
-    /// Does nothing: neither Escape nor the window's close button ends the work.
+    /// Does nothing: Escape does not end the work.
     void reject() override;
+
+protected:
+    /// Refuses.
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void showStage(const BuildProgress &progress);
 
-    QLabel *m_stage;
-    QLabel *m_elapsed;
+    QLabel *m_text;
     QProgressBar *m_bar;
     QElapsedTimer m_timer;
     QElapsedTimer m_sinceRepaint;

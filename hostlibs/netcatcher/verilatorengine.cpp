@@ -169,58 +169,67 @@ bool VerilatorEngine::learn(const QVector<EngineMessage> &messages)
     return m_blackBoxes.learn(messages) || includes;
 }
 
-/// Decides what a run without success means, and says so in the messages.
-bool VerilatorEngine::judge(const EngineResult &result, const QVector<EngineMessage> &messages)
+/// What the engine says when the sources are fine but hold nothing to elaborate; users are asked about that otherwise.
+static VerilatorEngine::Outcome outcomeIn(const EngineMessage &message)
 {
-    if (result.outcome == EngineResult::TimedOut) {
-        addError(QStringLiteral("The Verilog engine did not finish within %1 seconds and was ended.")
-                     .arg(m_limits.milliseconds / 1000));
-        return false;
-    }
+    if (message.isError && message.text.startsWith(QLatin1String("Specified --top-module")))
+        return VerilatorEngine::TopMissing;
+    if (message.isError && message.text.startsWith(QLatin1String("No top level module found")))
+        return VerilatorEngine::NoModules;
+    return VerilatorEngine::Failed;
+}
+
+/// Decides what the last run means, and says so in the messages.
+VerilatorEngine::Outcome VerilatorEngine::judge(const EngineResult &result, const QVector<EngineMessage> &messages)
+{
+    Outcome special = Failed;
     int errors = 0;
     for (const EngineMessage &message : messages) {
-        if (message.isError && message.text.startsWith(QLatin1String("Specified --top-module"))) {
-            m_isTopMissing = true;
+        const Outcome outcome = outcomeIn(message);
+        special = outcome == Failed ? special : outcome;
+        if (outcome != Failed)
             continue;
-        }
         errors += message.isError ? 1 : 0;
         m_messages.append(userMessage(message, m_folder));
     }
-    m_isTopMissing = m_isTopMissing && errors == 0;
-    const bool hasFailed = result.outcome != EngineResult::Finished || result.exitCode != 0;
-    if (!hasFailed)
-        return true;
-    if (result.messages.contains("bad_alloc") || result.messages.contains("Out of memory"))
+    if (result.outcome == EngineResult::Finished && result.exitCode == 0)
+        return Done;
+    if (result.outcome == EngineResult::TimedOut)
+        addError(QStringLiteral("The Verilog engine did not finish within %1 seconds and was ended.")
+                     .arg(m_limits.milliseconds / 1000));
+    else if (result.messages.contains("bad_alloc") || result.messages.contains("Out of memory"))
         addError(QStringLiteral("The Verilog engine ran out of memory; set the top module to a part of the design."));
     else if (result.outcome == EngineResult::Crashed)
         addError(
             QStringLiteral("The Verilog engine crashed. Set the top module, or disable files one by one to find "
                            "what it cannot read; a module that instantiates itself without end is a usual cause."));
-    else if (errors == 0 && !m_isTopMissing)
+    else if (errors == 0 && special != Failed)
+        return special;
+    else if (errors == 0)
         addError(QStringLiteral("The Verilog engine failed without saying why."));
-    return false;
+    return Failed;
 }
 
-bool VerilatorEngine::run()
+VerilatorEngine::Outcome VerilatorEngine::run()
 {
     if (!linkSources())
-        return false;
+        return Failed;
+    if (m_files.isEmpty())
+        return NoModules;
     const QString program = QStandardPaths::findExecutable(QLatin1String(engineProgram));
     if (program.isEmpty()) {
         addError(QStringLiteral("The Verilog engine %1 is not installed; install the Debian package \"verilator\" "
                                 "(apt install verilator).")
                      .arg(QLatin1String(engineProgram)));
-        return false;
+        return Failed;
     }
     scanSources();
-    if (m_order.isEmpty())
-        return false;
     QElapsedTimer timer;
     timer.start();
     for (int pass = 1;; ++pass) {
         if (!m_blackBoxes.write(m_folder.path())) {
             addError(QStringLiteral("Cannot write to %1.").arg(m_folder.path()));
-            return false;
+            return Failed;
         }
         EngineLimits left = m_limits;
         left.milliseconds = qMax(qint64(1), m_limits.milliseconds - timer.elapsed());
@@ -229,10 +238,12 @@ bool VerilatorEngine::run()
         });
         if (result.outcome == EngineResult::NotStarted) {
             addError(QStringLiteral("The Verilog engine %1 cannot be started.").arg(program));
-            return false;
+            return Failed;
         }
         const QVector<EngineMessage> messages = parseEngineMessages(result.messages);
-        if (pass == maxPasses || result.exitCode == 0 || !learn(messages))
+        const bool hasEnded = result.outcome == EngineResult::Finished && result.exitCode == 0;
+        const bool isOver = hasEnded || result.outcome == EngineResult::TimedOut || pass == maxPasses;
+        if (isOver || !learn(messages))
             return judge(result, messages);
     }
 }

@@ -17,15 +17,19 @@ class VerilatorEngine
 public:
     VerilatorEngine(const DesignSources &sources, const EngineLimits &limits, const ProgressFunction &progress);
 
-    /// False when there is no result; messages() then holds an error, unless only the top was not found.
-    bool run();
+    enum Outcome {
+        Done,       ///< the result can be read
+        NoModules,  ///< the sources declare no module
+        TopMissing, ///< no module has the top's name
+        Failed,     ///< messages() holds an error
+    };
+
+    Outcome run();
 
     /// The engine's result, inside the private folder.
     QString xmlPath() const;
     /// Errors and warnings as users see them.
     const QStringList &messages() const { return m_messages; }
-    /// Whether the engine refused only because no module has the top's name.
-    bool isTopMissing() const { return m_isTopMissing; }
     /// Modules that the sources declare, and those of them that none instantiates, by a scan of the text.
     QStringList declaredModules() const;
     QStringList declaredRoots() const;
@@ -39,7 +43,7 @@ private:
     bool learn(const QVector<EngineMessage> &messages);
     bool learnIncludes(const QVector<EngineMessage> &messages);
     QStringList arguments() const;
-    bool judge(const EngineResult &result, const QVector<EngineMessage> &messages);
+    Outcome judge(const EngineResult &result, const QVector<EngineMessage> &messages);
     void addError(const QString &text);
 
     const DesignSources m_sources;
@@ -52,7 +56,6 @@ private:
     HdlScan m_all;
     BlackBoxes m_blackBoxes;
     QStringList m_messages;
-    bool m_isTopMissing = false;
 };
 
 } // namespace NETCATCHER

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "netlistprobe.h"
+
+namespace probe {
+
+NETCATCHER::DesignSources sources(const QStringList &paths, const QString &top)
+{
+    QVariantList files;
+    for (const QString &path : paths)
+        files.append(QVariantMap{{"Path", path}});
+    return NETCATCHER::DesignSources::fromSourceInfo({{"Files", files}, {"Top", top}});
+}
+
+QString dataFile(const QString &name)
+{
+    return QStringLiteral(VAK_TEST_DATA "/hdl/") + name;
+}
+
+QStringList Result::errors() const
+{
+    return messages.filter(QRegExp("^ERROR"));
+}
+
+QStringList Result::warnings() const
+{
+    return messages.filter(QRegExp("^WARNING"));
+}
+
+Result build(const NETCATCHER::DesignSources &sources, const NETCATCHER::EngineLimits &limits)
+{
+    NETCATCHER::NetlistBuilder builder(sources);
+    builder.setLimits(limits);
+    Result result;
+    result.isAnalysed = builder.analyse();
+    result.tops = builder.tops();
+    result.modules = builder.modules();
+    result.netlist = builder.build(&result.error);
+    result.messages = builder.messages();
+    return result;
+}
+
+QStringList rows(const NETCATCHER::RtlNetlist &netlist)
+{
+    QStringList result;
+    const auto add = [&result](const QString &name, bool isUnusable) {
+        result.append(isUnusable ? name + QStringLiteral("\tunusable") : name);
+    };
+    const NETCATCHER::Hierachy *top = netlist.topHierarchy();
+    for (const NETCATCHER::RtlNetBus *bus : top->netbusesIncludeSub())
+        add(bus->fullBusName(), bus->isUnusable());
+    for (const NETCATCHER::RtlNet *net : top->singleNetsIncludeSub())
+        add(net->fullPathName(), net->isUnusable());
+    return result;
+}
+
+} // namespace probe
