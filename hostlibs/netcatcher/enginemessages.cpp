@@ -26,6 +26,7 @@ static const Advice advices[] = {
     {"Cannot find include file", "add the folder of that file to the include paths"},
     {"Importing from missing package", "add the file that declares the package to the project"},
     {"Package/class", "add the file that declares the package to the project"},
+    {"Bad package link", "add the file that declares the package to the project"},
     {"Interfaced port on top level", "choose a module without interface ports as the top module"},
     {"Parent instance's interface is not found", "choose a module without interface ports as the top module"},
     {"--top-module", "set another top module"},
@@ -52,6 +53,7 @@ QVector<EngineMessage> parseEngineMessages(const QByteArray &output)
 {
     static const QRegularExpression line(QStringLiteral("^%(Error|Warning)(?:-(\\w+))?: (.*)$"));
     static const QRegularExpression place(QStringLiteral("^(Internal Error: )?(vak.+?):(\\d+):(?:\\d+:)? (.*)$"));
+    static const QRegularExpression ownSource(QStringLiteral("\\.\\./\\w+\\.(?:cpp|h):\\d+: "));
     QVector<EngineMessage> messages;
     const QStringList lines = QString::fromUtf8(output).split(QLatin1Char('\n'));
     for (const QString &each : lines) {
@@ -68,6 +70,7 @@ QVector<EngineMessage> parseEngineMessages(const QByteArray &output)
             message.line = located.captured(3).toInt();
             message.text = located.captured(1) + located.captured(4);
         }
+        message.text.remove(ownSource);
         if (!isRemark(message.text))
             messages.append(message);
     }

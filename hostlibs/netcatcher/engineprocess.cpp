@@ -21,8 +21,9 @@ Q_LOGGING_CATEGORY(engineLog, "netcatcher.engine", QtWarningMsg)
 
 constexpr int idleMs = 50;
 constexpr int maxMessageBytes = 64 << 20;
-/// Deeply nested expressions need more stack than the usual eight megabytes.
-constexpr rlim_t stackBytes = rlim_t(1) << 30;
+/// Enough for expressions nested thousands deep; a module that instantiates itself should not take long to fail,
+/// though.
+constexpr rlim_t stackBytes = rlim_t(8) << 20;
 
 namespace {
 

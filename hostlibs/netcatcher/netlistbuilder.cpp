@@ -49,7 +49,7 @@ bool NetlistBuilder::analyse(const ProgressFunction &progress)
         (outcome == VerilatorEngine::Done && !readResult(engine.xmlPath(), report)))
         return false;
     if (outcome == VerilatorEngine::Done)
-        listModules(m_sources.top.isEmpty() ? QStringList() : engine.declaredModules());
+        listModules(engine.declaredModules());
     if (!m_sources.top.isEmpty() && m_tops.isEmpty())
         m_tops = engine.declaredRoots();
     return true;
@@ -67,10 +67,22 @@ bool NetlistBuilder::readResult(const QString &xmlPath, const ProgressFunction &
     return false;
 }
 
+/// Puts names into the order of the source files; what is not in `order` comes last.
+static void sortAs(const QStringList &order, QStringList *names)
+{
+    QHash<QString, int> rank;
+    for (int i = 0; i < order.size(); ++i)
+        rank.insert(order[i], i);
+    std::stable_sort(names->begin(), names->end(), [&](const QString &a, const QString &b) {
+        return rank.value(a, order.size()) < rank.value(b, order.size());
+    });
+}
+
 /// With a top set the engine keeps only what the top reaches; `declared` names the rest.
 void NetlistBuilder::listModules(const QStringList &declared)
 {
-    m_modules = declared;
+    if (!m_sources.top.isEmpty())
+        m_modules = declared;
     for (const RawModule &module : m_design.modules) {
         if (!module.isInterface && !isBlackBox(module))
             m_modules.append(QString::fromUtf8(module.name));
@@ -82,6 +94,8 @@ void NetlistBuilder::listModules(const QStringList &declared)
         if (found != m_design.modules.end() && !found->isInterface && !isBlackBox(*found))
             m_tops.append(QString::fromUtf8(found->name));
     }
+    sortAs(declared, &m_modules);
+    sortAs(declared, &m_tops);
     if (!m_sources.top.isEmpty() && !m_tops.contains(m_sources.top))
         m_tops.clear();
     if (!m_sources.top.isEmpty() && m_tops.isEmpty())

@@ -45,28 +45,60 @@ QString PrivateFolder::addSource(const SourceFile &file)
     return plainName;
 }
 
-QString PrivateFolder::addIncludeFolder(const QString &path)
+void PrivateFolder::addIncludeFolder(const QString &path)
 {
-    const QString plainName = QStringLiteral("vakinc%1").arg(m_includeFolders.size());
-    if (!link(path, plainName))
+    m_includeFolders.append(path);
+}
+
+static QString includeFolder(int index)
+{
+    return QStringLiteral("vakinc%1%2").arg(index).arg(QLatin1String(depth));
+}
+
+QStringList PrivateFolder::includeFolders() const
+{
+    QStringList names;
+    for (int i = 0; i < m_includeFolders.size(); ++i)
+        names.append(includeFolder(i));
+    return names;
+}
+
+/// Replaces a link by a copy. The engine follows the links of files that include others and of files that are included,
+/// and would meet the user's own names there.
+bool PrivateFolder::makeCopy(const QString &plainName)
+{
+    const QString place = filePath(plainName);
+    const QFileInfo info(place);
+    if (!info.isSymLink())
+        return true;
+    const QString target = info.symLinkTarget();
+    return QFile::remove(place) && QFile::copy(target, place);
+}
+
+std::optional<QString> PrivateFolder::addIncludeFrom(const QString &userFolder, const QString &plainFolder,
+                                                     const QString &name)
+{
+    const QString plainName = QDir::cleanPath(plainFolder + QLatin1Char('/') + name);
+    const QString original = QDir::cleanPath(userFolder + QLatin1Char('/') + name);
+    if (!plainName.startsWith(QLatin1String("vak")) || !QFileInfo(original).isFile())
         return {};
-    m_includeFolders.insert(plainName, path);
+    if (!m_userPaths.contains(plainName)) {
+        if (!link(original, plainName) || !makeCopy(plainName))
+            return {};
+        m_userPaths.insert(plainName, original);
+    }
     return plainName;
 }
 
 std::optional<QString> PrivateFolder::addInclude(const QString &includer, const QString &name)
 {
-    const QString plainName = QDir::cleanPath(QFileInfo(includer).path() + QLatin1Char('/') + name);
-    const QString original = QFileInfo(userPath(includer)).path() + QLatin1Char('/') + name;
-    const bool stays = plainName.startsWith(QLatin1String("vakdir")) && !QFileInfo(name).isAbsolute();
-    if (!stays || !QFileInfo(original).isFile())
+    if (!m_userPaths.contains(includer) || QFileInfo(name).isAbsolute() || !makeCopy(includer))
         return {};
-    if (!m_userPaths.contains(plainName)) {
-        if (!link(original, plainName))
-            return {};
-        m_userPaths.insert(plainName, QDir::cleanPath(original));
-    }
-    return plainName;
+    std::optional<QString> found =
+        addIncludeFrom(QFileInfo(userPath(includer)).absolutePath(), QFileInfo(includer).path(), name);
+    for (int i = 0; !found && i < m_includeFolders.size(); ++i)
+        found = addIncludeFrom(m_includeFolders[i], includeFolder(i), name);
+    return found;
 }
 
 QString PrivateFolder::userPath(const QString &plainName) const
@@ -74,10 +106,10 @@ QString PrivateFolder::userPath(const QString &plainName) const
     const auto found = m_userPaths.constFind(plainName);
     if (found != m_userPaths.constEnd())
         return *found;
-    const QString folder = plainName.section(QLatin1Char('/'), 0, 0);
-    const auto includeFolder = m_includeFolders.constFind(folder);
-    if (includeFolder != m_includeFolders.constEnd())
-        return QDir::cleanPath(*includeFolder + plainName.mid(folder.size()));
+    // The engine cuts the name of an include at its first blank.
+    const auto longer = m_userPaths.lowerBound(plainName + QLatin1Char(' '));
+    if (longer != m_userPaths.constEnd() && longer.key().startsWith(plainName + QLatin1Char(' ')))
+        return *longer;
     return plainName;
 }
 

@@ -27,10 +27,12 @@ public:
     /// Links a source file and answers its plain name, relative to the folder; empty when that fails. Files of one
     /// folder of the user's get into one folder here, so that they find each other's includes.
     QString addSource(const SourceFile &file);
-    /// Links a folder with include files and answers its plain name.
-    QString addIncludeFolder(const QString &path);
-    /// Makes `name`, included by the file with plain name `includer`, available beside that file when the user has it
-    /// beside the original. Answers its plain name.
+    /// Takes a folder to look for includes in, behind those added before.
+    void addIncludeFolder(const QString &path);
+    /// The plain names of the folders to look for includes in.
+    QStringList includeFolders() const;
+    /// Copies what the file with plain name `includer` includes as `name`: the file beside it, or the one in the first
+    /// include folder that has it. Answers its plain name; nothing when there is none.
     std::optional<QString> addInclude(const QString &includer, const QString &name);
 
     /// The user's path behind a plain name; the name itself when there is none.
@@ -40,12 +42,14 @@ public:
 
 private:
     bool link(const QString &target, const QString &plainName);
+    bool makeCopy(const QString &plainName);
+    std::optional<QString> addIncludeFrom(const QString &userFolder, const QString &plainFolder, const QString &name);
     QString folderFor(const QString &userFolder);
 
     QTemporaryDir m_folder;
     QHash<QString, QString> m_folders;  ///< user's folder to plain folder of sources
+    QStringList m_includeFolders;       ///< the user's
     QMap<QString, QString> m_userPaths; ///< plain name to user's path
-    QMap<QString, QString> m_includeFolders;
     int m_sourceCount = 0;
 };
 

@@ -66,9 +66,8 @@ bool VerilatorEngine::linkSources()
         if (!QFileInfo(path).isDir())
             m_messages.append(QStringLiteral("WARNING: %1: There is no such include folder.").arg(path));
         else
-            m_includeFolders.append(m_folder.addIncludeFolder(path));
+            m_folder.addIncludeFolder(path);
     }
-    m_includeFolders.removeAll(QString());
     return std::none_of(m_messages.cbegin(), m_messages.cend(),
                         [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); });
 }
@@ -85,13 +84,7 @@ HdlText VerilatorEngine::openSource(int origin)
 
 std::optional<HdlText> VerilatorEngine::openInclude(const QByteArray &name, int origin)
 {
-    const QString wanted = QString::fromUtf8(name);
-    std::optional<QString> found = m_folder.addInclude(m_files[origin], wanted);
-    for (int i = 0; !found && i < m_includeFolders.size(); ++i) {
-        const QString candidate = m_includeFolders[i] + QLatin1Char('/') + wanted;
-        if (QFileInfo(m_folder.filePath(candidate)).isFile())
-            found = candidate;
-    }
+    const std::optional<QString> found = m_folder.addInclude(m_files[origin], QString::fromUtf8(name));
     if (!found)
         return {};
     m_files.append(*found);
@@ -143,7 +136,8 @@ QStringList VerilatorEngine::arguments() const
     // SystemVerilog files are that whatever the standard of the others; stand-ins may have any word as a pin's name.
     result << QStringLiteral("+1800-2017ext+sv") << QStringLiteral("+1364-2005ext+") + BlackBoxes::suffix();
     result << QStringLiteral("+libext+.") + BlackBoxes::suffix() << QStringLiteral("-y") << BlackBoxes::folderName();
-    for (const QString &folder : m_includeFolders)
+    const QStringList includeFolders = m_folder.includeFolders();
+    for (const QString &folder : includeFolders)
         result << QStringLiteral("-I") + folder;
     for (const QString &define : m_sources.defines)
         result << QStringLiteral("-D") + define;
@@ -210,6 +204,14 @@ VerilatorEngine::Outcome VerilatorEngine::judge(const EngineResult &result, cons
     return Failed;
 }
 
+/// The engine names included files with their whole path.
+QByteArray VerilatorEngine::relativeToFolder(QByteArray output) const
+{
+    for (const QString &path : {m_folder.path(), QFileInfo(m_folder.path()).canonicalFilePath()})
+        output.replace(QFile::encodeName(path) + '/', QByteArray());
+    return output;
+}
+
 VerilatorEngine::Outcome VerilatorEngine::run()
 {
     if (!linkSources())
@@ -240,7 +242,7 @@ VerilatorEngine::Outcome VerilatorEngine::run()
             addError(QStringLiteral("The Verilog engine %1 cannot be started.").arg(program));
             return Failed;
         }
-        const QVector<EngineMessage> messages = parseEngineMessages(result.messages);
+        const QVector<EngineMessage> messages = parseEngineMessages(relativeToFolder(result.messages));
         const bool hasEnded = result.outcome == EngineResult::Finished && result.exitCode == 0;
         const bool isOver = hasEnded || result.outcome == EngineResult::TimedOut || pass == maxPasses;
         if (isOver || !learn(messages))

@@ -44,15 +44,15 @@ private:
     bool learnIncludes(const QVector<EngineMessage> &messages);
     QStringList arguments() const;
     Outcome judge(const EngineResult &result, const QVector<EngineMessage> &messages);
+    QByteArray relativeToFolder(QByteArray output) const;
     void addError(const QString &text);
 
     const DesignSources m_sources;
     const EngineLimits m_limits;
     const ProgressFunction m_progress;
     PrivateFolder m_folder;
-    QStringList m_includeFolders; ///< plain names
-    QStringList m_files;          ///< plain names of the sources, by origin; those of includes follow
-    QVector<int> m_order;         ///< of the sources
+    QStringList m_files;  ///< plain names of the sources, by origin; those of includes follow
+    QVector<int> m_order; ///< of the sources
     HdlScan m_all;
     BlackBoxes m_blackBoxes;
     QStringList m_messages;

@@ -1,0 +1,496 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "netlistprobe.h"
+
+#include "support/tempdir.h"
+
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+/// What users are told about designs that cannot be read, or not as they expect; and what `tops` and `modules` hold.
+class TestNetlistMessages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void onlyRootIsTheTop();
+    void severalRootsAreAllTops();
+    void topThatIsSetIsTheOnlyTop();
+    void topNeedNotBeARoot();
+    void misspeltTopEmptiesTheModules();
+    void topIsComparedExactly();
+    void blackBoxIsNoTop();
+    void interfaceIsNoModule();
+    void modulesOutsideOfTheTopAreFoundToo();
+    void sourcesWithoutModules_data();
+    void sourcesWithoutModules();
+
+    void syntaxErrorNamesFileAndLine();
+    void errorInIncludeNamesTheInclude();
+    void missingIncludeTellsTheRemedy();
+    void missingPackageTellsTheRemedy();
+    void interfacePortOfTheTopTellsTheRemedy();
+    void missingFileIsNamed();
+    void folderIsNoSourceFile();
+    void duplicateModuleIsAWarning();
+    void missingIncludeFolderIsAWarning();
+    void vhdlIsAWarning();
+    void wrongPinOfARealModuleIsAnError();
+    void binaryFileIsAnError();
+    void moduleInsideItselfIsAnError();
+
+    void includesAreFoundBesideTheirFile();
+    void includesAreFoundInIncludeFolders();
+    void includeFoldersKeepTheirFiles();
+    void includeBehindAnUnusualConditionIsFound();
+    void definesReachTheSources();
+    void synthesisIsDefined();
+    void filesAreReadOnce();
+    void packagesMayFollowTheirUsers();
+    void standardAppliesToVerilogFilesOnly();
+    void disabledNeighbourIsNotPulledIn();
+    void hugeBusIsListedButUnusable();
+    void temporaryFolderIsRemoved();
+
+    void missingEngineNamesThePackage();
+    void crashedEngineIsAnError();
+    void silentFailureIsAnError();
+    void runawayEngineIsEnded();
+    void truncatedResultIsAnError();
+
+private:
+    probe::Result build(const QByteArray &source, const QString &top = {}) const;
+    void installEngine(const QByteArray &script) const;
+
+    std::unique_ptr<support::TempDir> dir;
+    QByteArray path;
+};
+
+void TestNetlistMessages::init()
+{
+    dir = std::make_unique<support::TempDir>();
+    path = qgetenv("PATH");
+}
+
+void TestNetlistMessages::cleanup()
+{
+    qputenv("PATH", path);
+}
+
+probe::Result TestNetlistMessages::build(const QByteArray &source, const QString &top) const
+{
+    return probe::build(probe::sources({dir->write("design.sv", source)}, top));
+}
+
+/// Puts a program under the engine's name before the real one.
+void TestNetlistMessages::installEngine(const QByteArray &script) const
+{
+    const QString program = dir->write("bin/verilator_bin", "#!/bin/sh\n" + script);
+    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+    qputenv("PATH", QFile::encodeName(dir->filePath("bin")) + ':' + path);
+}
+
+static const char twoRoots[] = "module a(input x); leaf u(.x(x)); endmodule\n"
+                               "module b(input x); wire y = x; endmodule\n"
+                               "module leaf(input x); wire z = x; endmodule\n";
+
+void TestNetlistMessages::onlyRootIsTheTop()
+{
+    const probe::Result result =
+        build("module a(input x); leaf u(.x(x)); endmodule\nmodule leaf(input x); endmodule\n");
+    QCOMPARE(result.tops, QStringList("a"));
+    QCOMPARE(result.modules, QStringList({"a", "leaf"}));
+    QVERIFY(result.netlist);
+}
+
+void TestNetlistMessages::severalRootsAreAllTops()
+{
+    const probe::Result result = build(twoRoots);
+    QVERIFY(result.isAnalysed);
+    QCOMPARE(result.tops, QStringList({"a", "b"}));
+    QCOMPARE(result.modules, QStringList({"a", "b", "leaf"}));
+    QVERIFY(!result.netlist);
+    QCOMPARE(result.error, QString("The design has several top modules: a, b."));
+}
+
+void TestNetlistMessages::topThatIsSetIsTheOnlyTop()
+{
+    const probe::Result result = build(twoRoots, "b");
+    QCOMPARE(result.tops, QStringList("b"));
+    QVERIFY(result.netlist);
+    QCOMPARE(result.netlist->topHierarchy()->name(), QString("b"));
+    QVERIFY(!result.netlist->findNet("u/x"));
+}
+
+void TestNetlistMessages::topNeedNotBeARoot()
+{
+    const probe::Result result = build(twoRoots, "leaf");
+    QCOMPARE(result.tops, QStringList("leaf"));
+    QVERIFY(result.netlist);
+    QVERIFY(result.netlist->findNet("z"));
+}
+
+void TestNetlistMessages::misspeltTopEmptiesTheModules()
+{
+    const probe::Result result = build(twoRoots, "bee");
+    QVERIFY(result.isAnalysed);
+    QCOMPARE(result.modules, QStringList());
+    QCOMPARE(result.errors(), QStringList());
+    QCOMPARE(result.tops, QStringList({"a", "b"}));
+    QVERIFY(!result.netlist);
+}
+
+void TestNetlistMessages::topIsComparedExactly()
+{
+    QCOMPARE(build(twoRoots, "B").modules, QStringList());
+    QCOMPARE(build(twoRoots, " b").modules, QStringList());
+}
+
+void TestNetlistMessages::blackBoxIsNoTop()
+{
+    const probe::Result result = build("module a(input x); vendor u(.x(x)); endmodule\n", "vendor");
+    QCOMPARE(result.modules, QStringList());
+    QCOMPARE(result.tops, QStringList("a"));
+    QCOMPARE(result.errors(), QStringList());
+}
+
+void TestNetlistMessages::interfaceIsNoModule()
+{
+    const probe::Result result = build("interface i; logic x; endinterface\nmodule a(input x); endmodule\n");
+    QCOMPARE(result.modules, QStringList("a"));
+    QCOMPARE(result.tops, QStringList("a"));
+}
+
+void TestNetlistMessages::modulesOutsideOfTheTopAreFoundToo()
+{
+    const probe::Result result = build(twoRoots, "b");
+    QStringList modules = result.modules;
+    modules.sort();
+    QCOMPARE(modules, QStringList({"a", "b", "leaf"}));
+}
+
+void TestNetlistMessages::sourcesWithoutModules_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("comment") << QByteArray("// nothing\n");
+    QTest::newRow("package") << QByteArray("package p; localparam X = 1; endpackage\n");
+    QTest::newRow("interface") << QByteArray("interface i; logic x; endinterface\n");
+}
+
+void TestNetlistMessages::sourcesWithoutModules()
+{
+    QFETCH(QByteArray, source);
+    const probe::Result result = build(source);
+    QCOMPARE(result.errors(), QStringList());
+    QVERIFY(result.isAnalysed);
+    QCOMPARE(result.modules, QStringList());
+    QCOMPARE(result.tops, QStringList());
+    QVERIFY(!result.netlist);
+    QCOMPARE(result.error, QString("The design has no top module."));
+}
+
+void TestNetlistMessages::syntaxErrorNamesFileAndLine()
+{
+    const probe::Result result = build("module a(input x);\n\n  wire y = ;\nendmodule\n");
+    QVERIFY(!result.isAnalysed);
+    QCOMPARE(result.errors().size(), 1);
+    QVERIFY2(result.errors().first().startsWith("ERROR: " + dir->filePath("design.sv") + ":3: syntax error"),
+             qPrintable(result.errors().first()));
+    QVERIFY(!result.netlist);
+    QCOMPARE(result.error, result.errors().first());
+}
+
+void TestNetlistMessages::errorInIncludeNamesTheInclude()
+{
+    dir->write("more/part one.vh", "\nwire y = ;\n");
+    const probe::Result result = build("module a(input x);\n`include \"more/part one.vh\"\nendmodule\n");
+    QCOMPARE(result.errors().size(), 1);
+    QVERIFY2(result.errors().first().startsWith("ERROR: " + dir->filePath("more/part one.vh") + ":2: syntax error"),
+             qPrintable(result.errors().first()));
+}
+
+void TestNetlistMessages::missingIncludeTellsTheRemedy()
+{
+    const probe::Result result = build("\n`include \"nowhere.vh\"\nmodule a(input x); endmodule\n");
+    QCOMPARE(result.errors(), QStringList("ERROR: " + dir->filePath("design.sv") +
+                                          ":2: Cannot find include file: nowhere.vh (add the folder of that file to "
+                                          "the include paths)"));
+}
+
+void TestNetlistMessages::missingPackageTellsTheRemedy()
+{
+    const probe::Result imported = build("module a import p::*; (input x); endmodule\n");
+    QCOMPARE(imported.errors(),
+             QStringList("ERROR: " + dir->filePath("design.sv") +
+                         ":1: Importing from missing package 'p' (add the file that declares the package to the "
+                         "project)"));
+    const probe::Result scoped = build("module a (input x);\nwire [p::W-1:0] y;\nendmodule\n");
+    QVERIFY2(scoped.errors().value(0).endsWith("(add the file that declares the package to the project)"),
+             qPrintable(scoped.errors().value(0)));
+}
+
+void TestNetlistMessages::interfacePortOfTheTopTellsTheRemedy()
+{
+    const QByteArray source = "interface i; logic x; endinterface\nmodule a(i p); wire y = p.x; endmodule\n";
+    const probe::Result result = build(source, "a");
+    QVERIFY(!result.errors().isEmpty());
+    QVERIFY2(result.errors().first().startsWith("ERROR: " + dir->filePath("design.sv") + ":2: "),
+             qPrintable(result.errors().first()));
+    QVERIFY(result.errors().first().endsWith("(choose a module without interface ports as the top module)"));
+}
+
+void TestNetlistMessages::missingFileIsNamed()
+{
+    const probe::Result result = probe::build(probe::sources({dir->filePath("gone.v")}));
+    QCOMPARE(result.errors(), QStringList("ERROR: " + dir->filePath("gone.v") + ": There is no such file."));
+}
+
+void TestNetlistMessages::folderIsNoSourceFile()
+{
+    const probe::Result result = probe::build(probe::sources({dir->path()}));
+    QCOMPARE(result.errors(), QStringList("ERROR: " + dir->path() + ": There is no such file."));
+}
+
+void TestNetlistMessages::duplicateModuleIsAWarning()
+{
+    const QString first = dir->write("one.v", "module a(input x); endmodule\n");
+    const QString second = dir->write("two.v", "module a(input y); endmodule\n");
+    const probe::Result result = probe::build(probe::sources({first, second}));
+    QVERIFY(result.netlist);
+    QVERIFY(result.netlist->findNet("x"));
+    QCOMPARE(result.warnings(), QStringList("WARNING: " + second + ":1: Duplicate declaration of module: 'a'"));
+}
+
+void TestNetlistMessages::missingIncludeFolderIsAWarning()
+{
+    NETCATCHER::DesignSources sources = probe::sources({dir->write("a.v", "module a(input x); endmodule\n")});
+    sources.includePaths.append(dir->filePath("nowhere"));
+    const probe::Result result = probe::build(sources);
+    QVERIFY(result.netlist);
+    QCOMPARE(result.messages,
+             QStringList("WARNING: " + dir->filePath("nowhere") + ": There is no such include folder."));
+}
+
+void TestNetlistMessages::vhdlIsAWarning()
+{
+    const QString vhdl = dir->write("box.vhd", "entity box is end;\n");
+    const probe::Result result =
+        probe::build(probe::sources({vhdl, dir->write("a.v", "module a(input x); box u(.x(x)); endmodule\n")}));
+    QVERIFY(result.netlist);
+    QCOMPARE(result.netlist->topHierarchy()->children().first()->module(), QString("box"));
+    QCOMPARE(result.messages, QStringList("WARNING: " + vhdl + ": VHDL is not read; its entities are black boxes"));
+}
+
+void TestNetlistMessages::wrongPinOfARealModuleIsAnError()
+{
+    const probe::Result result = build("module a(input x);\nleaf u(.nope(x));\nvendor v(.x(x));\nendmodule\n"
+                                       "module leaf(input x); endmodule\n");
+    QCOMPARE(result.errors(), QStringList("ERROR: " + dir->filePath("design.sv") + ":2: Pin not found: 'nope'"));
+}
+
+void TestNetlistMessages::binaryFileIsAnError()
+{
+    QByteArray noise;
+    for (int i = 0; i < 4096; ++i)
+        noise += char((i * 131 + i / 7) & 0xff);
+    const probe::Result result = build(noise);
+    QVERIFY(!result.errors().isEmpty());
+    QVERIFY(result.errors().first().startsWith("ERROR: " + dir->filePath("design.sv") + ':'));
+}
+
+void TestNetlistMessages::moduleInsideItselfIsAnError()
+{
+    const probe::Result result = build("module a(input x); a u(.x(x)); endmodule\nmodule t(input x); a u(.x(x)); "
+                                       "endmodule\n");
+    QVERIFY(!result.netlist);
+    QVERIFY(!result.errors().isEmpty());
+}
+
+void TestNetlistMessages::includesAreFoundBesideTheirFile()
+{
+    dir->write("rtl/sub/width.vh", "`include \"deeper.vh\"\n`include \"../../common/more.vh\"\n");
+    dir->write("rtl/sub/deeper.vh", "`define WIDTH 6\n");
+    dir->write("common/more.vh", "`define MORE 2\n");
+    const QString source = dir->write("rtl/a.v", "`include \"sub/width.vh\"\n"
+                                                 "module a(input [`WIDTH-1:0] x, input [`MORE-1:0] y); endmodule\n");
+    const probe::Result result = probe::build(probe::sources({source}));
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(probe::rows(*result.netlist), QStringList({"x[5:0]", "y[1:0]"}));
+}
+
+void TestNetlistMessages::includesAreFoundInIncludeFolders()
+{
+    dir->write("inc one/width.vh", "`include \"deeper.vh\"\n");
+    dir->write("inc one/deeper.vh", "`define WIDTH 6\n");
+    NETCATCHER::DesignSources sources =
+        probe::sources({dir->write("a.v", "`include \"width.vh\"\nmodule a(input [`WIDTH-1:0] x); endmodule\n")});
+    sources.includePaths.append(dir->filePath("inc one"));
+    const probe::Result result = probe::build(sources);
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x[5:0]"));
+
+    dir->write("inc one/deeper.vh", "`define WIDTH +\n\n`error_here\n");
+    const probe::Result broken = probe::build(sources);
+    QVERIFY2(broken.errors().value(0).startsWith("ERROR: " + dir->filePath("inc one/deeper.vh") + ":3: "),
+             qPrintable(broken.errors().value(0)));
+}
+
+void TestNetlistMessages::includeFoldersKeepTheirFiles()
+{
+    const QString include = dir->write("inc/width.vh", "`define WIDTH 6\n");
+    NETCATCHER::DesignSources sources =
+        probe::sources({dir->write("a.v", "`include \"width.vh\"\nmodule a(input [`WIDTH-1:0] x); endmodule\n")});
+    sources.includePaths.append(dir->filePath("inc"));
+    QVERIFY(probe::build(sources).netlist);
+    QVERIFY(QFile::exists(include));
+    QCOMPARE(QDir(dir->path()).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot).size(), 2);
+}
+
+void TestNetlistMessages::includeBehindAnUnusualConditionIsFound()
+{
+    // The name of the file comes out of a macro, which only the engine can tell.
+    dir->write("width.vh", "`define WIDTH 6\n");
+    const probe::Result result = build("`define NAME \"width.vh\"\n`include `NAME\nmodule a(input [`WIDTH-1:0] x); "
+                                       "endmodule\n");
+    QCOMPARE(result.errors(), QStringList());
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x[5:0]"));
+}
+
+void TestNetlistMessages::definesReachTheSources()
+{
+    NETCATCHER::DesignSources sources = probe::sources(
+        {dir->write("a.v", "module a(input [`W-1:0] x);\n`ifdef WITH_BOX\nvendor u(.x(x));\n`endif\nendmodule\n")});
+    sources.defines = QStringList({"W=5", "WITH_BOX"});
+    const probe::Result result = probe::build(sources);
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x[4:0]"));
+    QCOMPARE(result.netlist->topHierarchy()->children().size(), 1);
+}
+
+void TestNetlistMessages::synthesisIsDefined()
+{
+    const probe::Result result = build("module a(input x);\n`ifdef SYNTHESIS\nwire s = x;\n`else\nwire t = x;\n`endif\n"
+                                       "`ifdef VERILATOR\nwire v = x;\n`endif\nendmodule\n");
+    QCOMPARE(probe::rows(*result.netlist), QStringList({"x", "s"}));
+}
+
+void TestNetlistMessages::filesAreReadOnce()
+{
+    const QString source = dir->write("a.v", "module a(input x); endmodule\n");
+    QVERIFY(QFile::link(source, dir->filePath("link.v")));
+    const probe::Result result =
+        probe::build(probe::sources({source, source, dir->path() + "/./a.v", dir->filePath("link.v")}));
+    QVERIFY(result.netlist);
+    QCOMPARE(result.messages, QStringList());
+}
+
+void TestNetlistMessages::packagesMayFollowTheirUsers()
+{
+    const QString top = dir->write("a.sv", "module a import p::*; (input t x); endmodule\n");
+    const QString user = dir->write("p.sv", "package p; typedef logic [q::W-1:0] t; endpackage\n");
+    const QString base = dir->write("q.sv", "package q; localparam W = 3; endpackage\n");
+    const probe::Result result = probe::build(probe::sources({top, user, base}));
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x[2:0]"));
+}
+
+void TestNetlistMessages::standardAppliesToVerilogFilesOnly()
+{
+    const QString old = dir->write("old.v", "module old(input logic, output bit); assign bit = logic; endmodule\n");
+    NETCATCHER::DesignSources sources = probe::sources({old}, "old");
+    sources.standard = "1364-2001";
+    QCOMPARE(probe::rows(*probe::build(sources).netlist), QStringList({"logic", "bit"}));
+    const QString plain =
+        dir->write("plain.sv", "module plain(input logic x, output logic y); assign y = x; endmodule\n");
+    sources = probe::sources({old, plain}, "plain");
+    sources.standard = "1364-2001";
+    const probe::Result both = probe::build(sources);
+    QCOMPARE(both.messages, QStringList());
+    QCOMPARE(probe::rows(*both.netlist), QStringList({"x", "y"}));
+}
+
+void TestNetlistMessages::disabledNeighbourIsNotPulledIn()
+{
+    // A file beside a source, or in an include folder, is no part of the design only because of its name.
+    dir->write("leaf.v", "module leaf(input x); wire inside = x; endmodule\n");
+    NETCATCHER::DesignSources sources =
+        probe::sources({dir->write("a.v", "module a(input x); leaf u(.x(x)); endmodule\n")});
+    sources.includePaths.append(dir->path());
+    const probe::Result result = probe::build(sources);
+    QVERIFY2(result.netlist, qPrintable(result.error));
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x"));
+}
+
+void TestNetlistMessages::hugeBusIsListedButUnusable()
+{
+    const probe::Result result = build("module a(input [99999999:0] x, output y); assign y = ^x; endmodule\n");
+    QVERIFY2(result.netlist, qPrintable(result.error + result.messages.join('\n')));
+    QCOMPARE(probe::rows(*result.netlist), QStringList({"x[99999999:0]\tunusable", "y"}));
+    QVERIFY(result.netlist->topHierarchy()->netbuses().first()->nets().isEmpty());
+    QCOMPARE(result.netlist->findNet("x[0]"), nullptr);
+    QVERIFY(result.warnings().contains("WARNING: x in module a is too wide to be taken apart and cannot be used"));
+}
+
+void TestNetlistMessages::temporaryFolderIsRemoved()
+{
+    const QStringList names{"rtlvak-*"};
+    const int before = QDir::temp().entryList(names).size();
+    QVERIFY(build(twoRoots, "a").netlist);
+    QVERIFY(!build("module a(").netlist);
+    QCOMPARE(QDir::temp().entryList(names).size(), before);
+}
+
+void TestNetlistMessages::missingEngineNamesThePackage()
+{
+    qputenv("PATH", QFile::encodeName(dir->path()));
+    const probe::Result result = build(twoRoots, "a");
+    QCOMPARE(result.errors(),
+             QStringList("ERROR: The Verilog engine verilator_bin is not installed; install the Debian "
+                         "package \"verilator\" (apt install verilator)."));
+    QVERIFY(!result.isAnalysed);
+}
+
+void TestNetlistMessages::crashedEngineIsAnError()
+{
+    installEngine("kill -SEGV $$\n");
+    const probe::Result result = build(twoRoots, "a");
+    QCOMPARE(result.errors().size(), 1);
+    QVERIFY(result.errors().first().startsWith("ERROR: The Verilog engine crashed. Set the top module"));
+}
+
+void TestNetlistMessages::silentFailureIsAnError()
+{
+    installEngine("exit 3\n");
+    QCOMPARE(build(twoRoots, "a").errors(), QStringList("ERROR: The Verilog engine failed without saying why."));
+}
+
+void TestNetlistMessages::runawayEngineIsEnded()
+{
+    installEngine("while :; do :; done\n");
+    NETCATCHER::EngineLimits limits;
+    limits.milliseconds = 1000;
+    QElapsedTimer timer;
+    timer.start();
+    const probe::Result result = probe::build(probe::sources({dir->write("a.v", twoRoots)}, "a"), limits);
+    QCOMPARE(result.errors(), QStringList("ERROR: The Verilog engine did not finish within 1 seconds and was ended."));
+    QVERIFY(timer.elapsed() < 30000);
+}
+
+void TestNetlistMessages::truncatedResultIsAnError()
+{
+    installEngine("mkdir -p vakout; printf '<?xml version=\"1.0\"?><verilator_xml><netlist><module' > vakout/Vx.xml\n");
+    const probe::Result result = build(twoRoots, "a");
+    QCOMPARE(result.errors().size(), 1);
+    QVERIFY2(result.errors().first().startsWith("ERROR: The result of the Verilog engine cannot be read: line 1: "),
+             qPrintable(result.errors().first()));
+    QVERIFY(!result.isAnalysed);
+}
+
+QTEST_GUILESS_MAIN(TestNetlistMessages)
+#include "tst_netlistmessages.moc"
