@@ -3,6 +3,7 @@
 
 #include "capturepage.h"
 
+#include "tests/fakes/fakenetlist.h"
 #include "tests/support/doubles.h"
 #include "tests/support/scriptedresources.h"
 #include "tests/support/signallog.h"

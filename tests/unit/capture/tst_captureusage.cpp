@@ -8,6 +8,8 @@
 #include "tests/support/doubles.h"
 #include "tests/support/scriptedresources.h"
 
+#include <QUtility/ievent.h>
+
 #include <QtTest>
 
 class tst_CaptureUsage : public QObject
@@ -168,8 +170,8 @@ void tst_CaptureUsage::otherEventsAreIgnored()
     support::setCapacity({20, 48, 1000});
     const QUtil::IEventHandler *handler = &bench.page();
     QCOMPARE(fakes::subscriptionsOf(handler), QStringList{QStringLiteral("TE.Device.Change")});
-    fakes::publish(QStringLiteral("te.device.change"));
-    fakes::publish(QStringLiteral("TE.Option.Change"));
+    for (const char *type : {"te.device.change", "TE.Option.Change"})
+        bench.page().handleIEvent(std::make_unique<QUtil::IEvent>(QLatin1String(type)).get());
     QCOMPARE(bench.usage(), QStringLiteral("BSRAM Usage : 0/10"));
 }
 

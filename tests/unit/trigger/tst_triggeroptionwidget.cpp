@@ -13,6 +13,7 @@
 #include "tests/support/doubles.h"
 #include "tests/support/scriptedresources.h"
 
+#include <QUtility/ievent.h>
 #include <VakUtils/matchunit.h>
 #include <VakUtils/matchunitdialog.h>
 #include <VakUtils/triggerport.h>
@@ -676,8 +677,8 @@ void tst_TriggerOptionWidget::otherEventsAreIgnored()
     bench.page();
     support::setCapacity({20, 0, 1000});
     QCOMPARE(fakes::subscriptionCount(), 1);
-    fakes::publish(QStringLiteral("te.device.change"));
-    fakes::publish(QStringLiteral("TE.Option.Change"));
+    for (const char *type : {"te.device.change", "TE.Option.Change"})
+        bench.page().handleIEvent(std::make_unique<QUtil::IEvent>(QLatin1String(type)).get());
     QCOMPARE(bench.usage(), QStringLiteral("BSRAM Usage : 0/12"));
     QCOMPARE(bench.storage().count(), 3);
 }
