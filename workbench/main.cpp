@@ -8,7 +8,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
+#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -20,6 +20,7 @@ namespace {
 
 /// How long a picture waits for what is laid out and painted later.
 constexpr int PictureDelayMs = 200;
+constexpr double LargestShareOfScreen = 0.95;
 
 struct Arguments
 {
@@ -62,6 +63,7 @@ static int takePicture(Workbench::MainWindow &window, const Arguments &arguments
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     const Workbench::Unattended unattended;
+    window.show();
     bool ok = openAll(window, arguments.files);
     QEventLoop loop;
     QTimer::singleShot(PictureDelayMs, &loop, &QEventLoop::quit);
@@ -86,9 +88,10 @@ int main(int argc, char *argv[])
     Workbench::PluginHost plugins;
     plugins.load(QApplication::applicationDirPath() + "/../plugins");
     Workbench::MainWindow window(plugins);
-    window.show();
     if (!arguments.picture.isEmpty())
         return takePicture(window, arguments);
+    window.resize(window.size().boundedTo(window.screen()->availableSize() * LargestShareOfScreen));
+    window.show();
     openAll(window, arguments.files);
     return QApplication::exec();
 }

@@ -105,9 +105,9 @@ MainWindow::MainWindow(const PluginHost &plugins, QWidget *parent)
     connect(&engine(), &TE::ProjectEngine::projectChanged, this, &MainWindow::updateState);
     connect(&engine(), &TE::ProjectEngine::optionChanged, this, &MainWindow::updateState);
     connect(&engine(), &TE::ProjectEngine::deviceChanged, this, &MainWindow::updateState);
-    resize(1280, 800);
+    resize(1360, 860);
     resizeDocks(findChildren<QDockWidget *>("projectDock"), {340}, Qt::Horizontal);
-    resizeDocks(findChildren<QDockWidget *>("messagesDock"), {120}, Qt::Vertical);
+    resizeDocks(findChildren<QDockWidget *>("messagesDock"), {96}, Qt::Vertical);
     updateState();
 }
 
@@ -226,12 +226,11 @@ void MainWindow::createToolBar()
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->setIconSize({20, 20});
+    // The command's own text names the file, which would make the button jump.
+    a.save->setIconText(tr("Save"));
     bar->addActions({a.open, a.save});
     bar->addSeparator();
-    bar->addActions({a.configuration, a.device});
-    // The command's own text names the file, which would make the button jump.
-    auto *saveButton = qobject_cast<QToolButton *>(bar->widgetForAction(a.save));
-    saveButton->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    bar->addActions({a.newStandard, a.configuration, a.device});
 }
 
 void MainWindow::createPanels()

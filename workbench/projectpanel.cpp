@@ -19,6 +19,7 @@
 namespace Workbench {
 
 enum Column { NameColumn, TypeColumn, ColumnCount };
+constexpr int SmallestWidth = 200;
 constexpr int PathRole = Qt::UserRole;
 
 static TE::ProjectEngine &engine()
@@ -97,6 +98,7 @@ ProjectPanel::ProjectPanel(QWidget *parent)
     , m_tree(new QTreeWidget(this))
     , m_pages(new QStackedLayout(this))
 {
+    setMinimumWidth(SmallestWidth);
     m_tree->setObjectName("projectTree");
     m_tree->setFrameShape(QFrame::NoFrame);
     m_tree->setColumnCount(ColumnCount);
