@@ -13,8 +13,16 @@ namespace NETCATCHER {
 /// Sources lie this deep, so that an include of `../common/x.vh` stays inside the private folder.
 static const char depth[] = "/u/u/u/u";
 
+/// The folder for temporary files, unless its own name could be misread by an engine.
+static QString plainTemporaryFolder()
+{
+    static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_./-]+\\z"));
+    const QString path = QDir::tempPath();
+    return plain.match(path).hasMatch() ? path : QStringLiteral("/tmp");
+}
+
 PrivateFolder::PrivateFolder()
-    : m_folder(QDir::tempPath() + QStringLiteral("/rtlvak-XXXXXX"))
+    : m_folder(plainTemporaryFolder() + QStringLiteral("/rtlvak-XXXXXX"))
 {
 }
 

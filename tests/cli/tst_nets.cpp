@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "runrtlvak.h"
+
+#include "support/tempdir.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+class TestNets : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void rowsAreTheGoldenList();
+    void jsonHoldsBusesWithBitsAndNets();
+    void jsonOfAnEmptyHitListIsValid();
+    void matchIsASubstringWithoutCase();
+    void caseSensitiveMatch();
+    void wildcardAndRegexMatchWholeNames();
+    void scopeAndNoSubLimitTheList();
+    void unknownScopeFails();
+    void topChoosesAmongSeveral();
+    void unknownTopFails();
+    void projectIsRead();
+    void topOverridesTheProject();
+    void fileListIsRead();
+    void errorsGoToStandardError();
+    void definesAndIncludeFolders();
+    void usageErrors_data();
+    void usageErrors();
+    void helpExplainsTheCommand();
+};
+
+static QString data(const QString &name)
+{
+    return QStringLiteral(VAK_TEST_DATA "/hdl/") + name;
+}
+
+static QStringList lines(const QString &text)
+{
+    return text.split('\n', Qt::SkipEmptyParts);
+}
+
+static QStringList nets(const QStringList &arguments)
+{
+    return lines(runRtlvak(QStringList("nets") + arguments).output);
+}
+
+void TestNets::rowsAreTheGoldenList()
+{
+    const CliRun run = runRtlvak({"nets", data("types.sv"), data("types_pkg.sv")});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.error, QString());
+    QFile golden(data("types.nets"));
+    QVERIFY(golden.open(QIODevice::ReadOnly));
+    QCOMPARE(run.output, QString::fromUtf8(golden.readAll()));
+}
+
+void TestNets::jsonHoldsBusesWithBitsAndNets()
+{
+    const CliRun run = runRtlvak({"nets", "--json", data("usable.v")});
+    QCOMPARE(run.status, 0);
+    const QJsonObject root = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    QCOMPARE(root.keys(), QStringList({"buses", "nets", "top"}));
+    QCOMPARE(root["top"].toString(), QString("usable"));
+    const QJsonArray buses = root["buses"].toArray();
+    QCOMPARE(buses.size(), 13);
+    const QJsonObject pads = buses[2].toObject();
+    QCOMPARE(pads["name"].toString(), QString("pads[1:0]"));
+    QCOMPARE(pads["usable"].toBool(true), false);
+    QCOMPARE(pads["bits"].toArray(), QJsonArray({"pads[1]", "pads[0]"}));
+    QVERIFY(buses[0].toObject()["usable"].toBool());
+    const QJsonObject clock = root["nets"].toArray().first().toObject();
+    QCOMPARE(clock, QJsonObject({{"name", "clk"}, {"usable", true}}));
+}
+
+void TestNets::jsonOfAnEmptyHitListIsValid()
+{
+    const CliRun run = runRtlvak({"nets", "--json", "--match", "nowhere", data("usable.v")});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(QJsonDocument::fromJson(run.output.toUtf8()).object(),
+             QJsonObject({{"top", "usable"}, {"buses", QJsonArray()}, {"nets", QJsonArray()}}));
+}
+
+void TestNets::matchIsASubstringWithoutCase()
+{
+    QCOMPARE(nets({"--match", "TAP[1].g", data("generated.v")}),
+             QStringList({"g_lane[0].g_tap[1].g_last.last", "g_lane[1].g_tap[1].g_last.last"}));
+}
+
+void TestNets::caseSensitiveMatch()
+{
+    QCOMPARE(nets({"--match", "TAP[1].g", "--case-sensitive", data("generated.v")}), QStringList());
+    QCOMPARE(nets({"--match", "fast.q", "--case-sensitive", data("generated.v")}), QStringList("g_fast.quick"));
+}
+
+void TestNets::wildcardAndRegexMatchWholeNames()
+{
+    QCOMPARE(nets({"--match", "u_inv*", "--wildcard", data("vectors.v")}).size(), 8);
+    QCOMPARE(nets({"--match", "u_inv", "--wildcard", data("vectors.v")}), QStringList());
+    QCOMPARE(nets({"--match", "u_inv\\[[01]\\]/y", "--regex", data("vectors.v")}),
+             QStringList({"u_inv[1]/y", "u_inv[0]/y"}));
+}
+
+void TestNets::scopeAndNoSubLimitTheList()
+{
+    QCOMPARE(nets({"--scope", "u_pair[1]", data("vectors.v")}), QStringList({"u_pair[1]/a", "u_pair[1]/y"}));
+    QCOMPARE(nets({"--scope", "link", "--no-sub", data("streams.sv")}),
+             QStringList({"link/data[7:0]", "link/clk", "link/valid", "link/ready"}));
+    QVERIFY(!nets({"--no-sub", data("streams.sv")}).contains("link/clk"));
+}
+
+void TestNets::unknownScopeFails()
+{
+    const CliRun run = runRtlvak({"nets", "--scope", "u_none", data("vectors.v")});
+    QCOMPARE(run.status, 1);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.error, QString("rtlvak nets: there is no instance 'u_none'\n"));
+}
+
+void TestNets::topChoosesAmongSeveral()
+{
+    const QStringList sources{data("vectors.v"), data("streams.sv")};
+    const CliRun several = runRtlvak(QStringList("nets") + sources);
+    QCOMPARE(several.status, 1);
+    QCOMPARE(several.error, QString("rtlvak nets: the design has several top modules (vectors, streams); choose one "
+                                    "with --top\n"));
+    QCOMPARE(nets(QStringList({"--top", "counter"}) + sources),
+             QStringList({"value[3:0]", "next[4:0]", "clk", "rst", "wrap"}));
+}
+
+void TestNets::unknownTopFails()
+{
+    const CliRun run = runRtlvak({"nets", "--top", "vektors", data("vectors.v")});
+    QCOMPARE(run.status, 1);
+    QCOMPARE(run.error, QString("rtlvak nets: there is no module 'vektors'\n"));
+}
+
+static const char project[] = R"({"vakproj": 1, "top": "second", "includePaths": ["inc"], "defines": ["WIDTH=3"],
+ "files": [{"path": "a.v", "type": "verilog", "enabled": true, "library": ""},
+           {"path": "off.v", "type": "verilog", "enabled": false, "library": ""}]})";
+static const char twoModules[] = "`include \"def.vh\"\n"
+                                 "module first(input x); wire only_first = x; endmodule\n"
+                                 "module second(input [`WIDTH-1:0] `NAME); endmodule\n";
+
+void TestNets::projectIsRead()
+{
+    const support::TempDir dir;
+    dir.write("a.v", twoModules);
+    dir.write("off.v", "this is not Verilog");
+    dir.write("inc/def.vh", "`define NAME port\n");
+    const QString path = dir.write("p.vakproj", project);
+    const CliRun run = runRtlvak({"nets", path});
+    QCOMPARE(run.error, QString());
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.output, QString("port[2:0]\n"));
+}
+
+void TestNets::topOverridesTheProject()
+{
+    const support::TempDir dir;
+    dir.write("a.v", twoModules);
+    dir.write("inc/def.vh", "`define NAME port\n");
+    QCOMPARE(nets({"--top", "first", dir.write("p.vakproj", project)}), QStringList({"x", "only_first"}));
+}
+
+void TestNets::fileListIsRead()
+{
+    const support::TempDir dir;
+    dir.write("a.v", twoModules);
+    dir.write("inc/def.vh", "`define NAME port\n");
+    const QString list = dir.write("design.f", "+incdir+inc\n+define+WIDTH=2\na.v\n");
+    const CliRun run = runRtlvak({"nets", "--top", "second", list});
+    QCOMPARE(run.error, QString());
+    QCOMPARE(run.output, QString("port[1:0]\n"));
+}
+
+void TestNets::errorsGoToStandardError()
+{
+    const support::TempDir dir;
+    const QString path = dir.write("a.v", "module a(input x);\nassign = 1;\nendmodule\n");
+    const CliRun run = runRtlvak({"nets", path});
+    QCOMPARE(run.status, 1);
+    QCOMPARE(run.output, QString());
+    QVERIFY2(run.error.startsWith("ERROR: " + path + ":2: "), qPrintable(run.error));
+    QVERIFY(run.error.endsWith("\nrtlvak nets: the design has errors\n"));
+    const CliRun missing = runRtlvak({"nets", dir.filePath("none.vakproj")});
+    QCOMPARE(missing.status, 1);
+    QVERIFY(missing.error.contains("none.vakproj"));
+}
+
+void TestNets::definesAndIncludeFolders()
+{
+    const support::TempDir dir;
+    const QString source = dir.write("a.v", twoModules);
+    dir.write("other/def.vh", "`define NAME named\n");
+    QCOMPARE(nets({"-D", "WIDTH=1", "-I", dir.filePath("other"), "--top", "second", source}),
+             QStringList("named[0:0]"));
+}
+
+void TestNets::usageErrors_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    const QString hint = "Try 'rtlvak nets --help'.\n";
+    QTest::newRow("no design") << QStringList() << "rtlvak nets: names no design.\n" + hint;
+    QTest::newRow("both syntaxes") << QStringList({"--wildcard", "--regex", "a.v"})
+                                   << "rtlvak nets: takes one of --wildcard and --regex.\n" + hint;
+    QTest::newRow("pattern") << QStringList({"--regex", "--match", "(", "a.v"})
+                             << "rtlvak nets: the pattern is not valid: unexpected end\n" + hint;
+}
+
+void TestNets::usageErrors()
+{
+    QFETCH(QStringList, arguments);
+    const CliRun run = runRtlvak(QStringList("nets") + arguments);
+    QCOMPARE(run.status, 2);
+    QTEST(run.error, "error");
+}
+
+void TestNets::helpExplainsTheCommand()
+{
+    const CliRun run = runRtlvak({"nets", "--help"});
+    QCOMPARE(run.status, 0);
+    QVERIFY(run.output.startsWith("Usage: rtlvak nets [options] PROJECT|LIST|SOURCE...\n"));
+    for (const char *option : {"--top", "--scope", "--match", "--wildcard", "--regex", "--case-sensitive", "--json"})
+        QVERIFY2(run.output.contains(option), option);
+}
+
+QTEST_GUILESS_MAIN(TestNets)
+#include "tst_nets.moc"

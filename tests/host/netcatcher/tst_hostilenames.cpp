@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "netlistprobe.h"
+
+#include "support/tempdir.h"
+
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+/// Names out of untrusted projects: whatever they look like, they are only names. Commands that hide in them would
+/// leave a file named "canary" in the working folder.
+class TestHostileNames : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void sourceFile_data() { names(); }
+    void sourceFile();
+    void errorInSourceFile_data() { names(); }
+    void errorInSourceFile();
+    void folderOfSources_data() { names(); }
+    void folderOfSources();
+    void includeFolder_data() { names(); }
+    void includeFolder();
+    void define_data() { names(); }
+    void define();
+    void topModule_data() { names(); }
+    void topModule();
+    void temporaryFolder_data() { names(); }
+    void temporaryFolder();
+
+private:
+    static void names();
+    bool isUntouched() const;
+
+    std::unique_ptr<support::TempDir> dir;
+    QString workingFolder;
+    QByteArray temporary;
+};
+
+void TestHostileNames::names()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("blank") << "a b";
+    QTest::newRow("leading blank") << " a";
+    QTest::newRow("double quote") << "a\"b";
+    QTest::newRow("single quote") << "a'b";
+    QTest::newRow("command substitution") << "$(touch canary)";
+    QTest::newRow("backtick") << "`touch canary`";
+    QTest::newRow("semicolon") << "a;touch canary";
+    QTest::newRow("ampersand") << "a&touch canary";
+    QTest::newRow("pipe") << "a|touch canary";
+    QTest::newRow("newline") << "a\ntouch canary";
+    QTest::newRow("tabulator") << "a\tb";
+    QTest::newRow("leading minus") << "--version";
+    QTest::newRow("leading plus") << "+define+X";
+    QTest::newRow("percent") << "%Error: a%s%n";
+    QTest::newRow("star") << "*";
+    QTest::newRow("question mark and bracket") << "?[a";
+    QTest::newRow("backslash") << "a\\nb";
+    QTest::newRow("non-ASCII") << QStringLiteral("gr\u00f6\u00dfe\u4f60");
+    QTest::newRow("long") << QString(250, QLatin1Char('n'));
+    QTest::newRow("option") << "-f list";
+    QTest::newRow("braces") << "${HOME}{a,b}";
+}
+
+void TestHostileNames::init()
+{
+    dir = std::make_unique<support::TempDir>();
+    workingFolder = QDir::currentPath();
+    temporary = qgetenv("TMPDIR");
+    QVERIFY(QDir::setCurrent(dir->path()));
+}
+
+void TestHostileNames::cleanup()
+{
+    QDir::setCurrent(workingFolder);
+    temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+}
+
+bool TestHostileNames::isUntouched() const
+{
+    return !QFile::exists(dir->filePath("canary")) && QDir(dir->path()).entryList({"*canary*"}, QDir::Files).isEmpty();
+}
+
+static const char design[] = "module a(input x); wire y = x; endmodule\n";
+
+void TestHostileNames::sourceFile()
+{
+    QFETCH(QString, name);
+    const QString path = dir->write("rtl/" + name + ".v", design);
+    const probe::Result result = probe::build(probe::sources({path}));
+    QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
+    QCOMPARE(probe::rows(*result.netlist), QStringList({"x", "y"}));
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::errorInSourceFile()
+{
+    QFETCH(QString, name);
+    const QString path = dir->write("rtl/" + name + ".v", "\nmodule a(input x)\nendmodule\n");
+    const probe::Result result = probe::build(probe::sources({path}));
+    QVERIFY(!result.errors().isEmpty());
+    QVERIFY2(result.errors().first().startsWith("ERROR: " + path + ":3: syntax error"),
+             qPrintable(result.errors().first()));
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::folderOfSources()
+{
+    QFETCH(QString, name);
+    const QString path = dir->write(name + "/a.v", "`include \"w.vh\"\nmodule a(input [`W:0] x); endmodule\n");
+    dir->write(name + "/w.vh", "`define W 4\n");
+    const probe::Result result = probe::build(probe::sources({path}));
+    QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x[4:0]"));
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::includeFolder()
+{
+    QFETCH(QString, name);
+    const QString path = dir->write("a.v", "`include \"w.vh\"\nmodule a(input [`W:0] x); endmodule\n");
+    dir->write(name + "/w.vh", "`include \"v.vh\"\n");
+    dir->write(name + "/v.vh", "`define W 4\n");
+    NETCATCHER::DesignSources sources = probe::sources({path});
+    sources.includePaths.append(dir->filePath(name));
+    const probe::Result result = probe::build(sources);
+    QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x[4:0]"));
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::define()
+{
+    QFETCH(QString, name);
+    NETCATCHER::DesignSources sources = probe::sources({dir->write("a.v", design)});
+    sources.defines.append(name);
+    const probe::Result named = probe::build(sources);
+    QVERIFY(named.netlist || !named.errors().isEmpty());
+    sources.defines = QStringList("UNUSED=" + name);
+    const probe::Result valued = probe::build(sources);
+    QVERIFY(valued.netlist || !valued.errors().isEmpty());
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::topModule()
+{
+    QFETCH(QString, name);
+    const probe::Result result = probe::build(probe::sources({dir->write("a.v", design)}, name));
+    QCOMPARE(result.modules, QStringList());
+    QCOMPARE(result.errors(), QStringList());
+    QVERIFY(!result.netlist);
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::temporaryFolder()
+{
+    QFETCH(QString, name);
+    const QString path = dir->write("a.v", "`include \"w.vh\"\nmodule a(input [`W:0] x); box u(.x(x)); endmodule\n");
+    dir->write("w.vh", "`define W 4\n");
+    QVERIFY(QDir(dir->path()).mkdir(name));
+    qputenv("TMPDIR", QFile::encodeName(dir->filePath(name)));
+    const probe::Result result = probe::build(probe::sources({path}));
+    QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x[4:0]"));
+    QVERIFY(isUntouched());
+    QVERIFY(QDir(dir->filePath(name)).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestHostileNames)
+#include "tst_hostilenames.moc"
