@@ -218,22 +218,31 @@ void TestDeviceCatalogue::missingFileIsNamed()
     QCOMPARE(error, QStringLiteral("/nowhere/x.json: No such file or directory"));
 }
 
+static bool writeCatalogueFile(const QTemporaryDir &home, const char *name, const QByteArray &text)
+{
+    QDir(home.path()).mkpath(QStringLiteral("rtlvakins/devices"));
+    QFile file(home.filePath(QStringLiteral("rtlvakins/devices/%1").arg(QLatin1String(name))));
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
+
 void TestDeviceCatalogue::userFilesExtendTheCatalogue()
 {
-    QTemporaryDir home;
-    QDir(home.path()).mkpath(QStringLiteral("rtlvakins/devices"));
-    const auto write = [&home](const char *name, const QByteArray &text) {
-        QFile file(home.filePath(QStringLiteral("rtlvakins/devices/%1").arg(QLatin1String(name))));
-        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-    };
-    QVERIFY(write("a.json", oneDevice(completeFields)));
-    QVERIFY(write("b.json", "{"));
-    QVERIFY(write("ignored.txt", "{"));
+    const QTemporaryDir home;
+    const QTemporaryDir shared;
+    const QByteArray ofAll = QByteArray(completeFields).replace(R"("blockRams": 3)", R"("blockRams": 99)");
+    QVERIFY(writeCatalogueFile(home, "a.json", oneDevice(completeFields)));
+    QVERIFY(writeCatalogueFile(home, "b.json", "{"));
+    QVERIFY(writeCatalogueFile(home, "ignored.txt", "{"));
+    QVERIFY(writeCatalogueFile(shared, "a.json", oneDevice(ofAll)));
+    QVERIFY(writeCatalogueFile(shared, "z.json", oneDevice(QByteArray(ofAll).replace("MINE", "OURS"))));
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_DATA_DIRS", shared.path().toLocal8Bit());
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("b\\.json: byte")));
     const DeviceCatalogue &catalogue = DeviceCatalogue::instance();
-    QVERIFY(catalogue.find(QStringLiteral("MINE")));
     QVERIFY(catalogue.find(QStringLiteral("KXA-Q1")));
+    QVERIFY(catalogue.find(QStringLiteral("OURS")));
+    QVERIFY(catalogue.find(QStringLiteral("MINE")));
+    QCOMPARE(catalogue.find(QStringLiteral("MINE"))->blockRams, 3); // the user's own file wins
     QCOMPARE(catalogue.messages().size(), 1);
     QVERIFY(catalogue.messages().first().contains(QStringLiteral("b.json")));
 }

@@ -30,7 +30,9 @@ private slots:
     void longBusIsOneLine();
     void spoiltMemberExpandsTheBus_data();
     void spoiltMemberExpandsTheBus();
+    void unitThatDiffersInOneFieldIsWritten();
     void expressionTakesItsForeignContentAlong();
+    void equalExpressionsShareTheirForeignContent();
     void foreignContentOfTheRootOutlivesTheFirstCore();
     void characterThatXmlCannotExpressIsReplaced();
     void brokenForeignTextIsLeftOut();
@@ -244,6 +246,25 @@ void TestVakFile::spoiltMemberExpandsTheBus()
     QCOMPARE(read(path("written.rvk")).cores.first()->getallCapSignal(), QList<SignalItem>{bus});
 }
 
+void TestVakFile::unitThatDiffersInOneFieldIsWritten()
+{
+    AoCore core(0);
+    core.matchUnit(0)->setEnabled(true);
+    core.matchUnit(1)->setTriggerPort(core.getTrigger(0));
+    core.matchUnit(2)->setFunction(MatchFunction::Less);
+    core.matchUnit(3)->setValue0(QStringLiteral("0"));
+    core.matchUnit(4)->setCounterMode(CounterMode::Total);
+    core.matchUnit(5)->setCounterValue(2);
+    ForeignXml foreign;
+    foreign.elements = QStringLiteral("<a/>");
+    core.matchUnit(6)->setForeign(foreign);
+    core.getTrigger(9)->setForeign(foreign);
+    const QByteArray bytes = written({&core});
+    QCOMPARE(bytes.count("<unit "), 7);
+    QCOMPARE(bytes.count("<port "), 1);
+    QCOMPARE(difference(*read(path("written.rvk")).cores.first(), core), QString());
+}
+
 void TestVakFile::expressionTakesItsForeignContentAlong()
 {
     const StandardCores read = this->read(goldenFile(QStringLiteral("standard-foreign.rvk")));
@@ -255,6 +276,17 @@ void TestVakFile::expressionTakesItsForeignContentAlong()
                            "        <x:u/>\n"));
     core->setExpression({});
     QVERIFY(!written(read.cores).contains("x:u"));
+}
+
+void TestVakFile::equalExpressionsShareTheirForeignContent()
+{
+    QByteArray text = fileContent(goldenFile(QStringLiteral("standard-foreign.rvk")));
+    text.replace("<expression text=\"M0\"/>",
+                 "<expression text=\"M0\" x:e=\"1\"/><expression text=\"M0\" x:e=\"2\" x:f=\"3\"/>");
+    QVERIFY(writeContent(path(), text));
+    const QByteArray bytes = written(read(path()).cores);
+    QCOMPARE(bytes.count("<expression text=\"M0\" x:e=\"1\" x:f=\"3\"/>"), 2);
+    QCOMPARE(written(read(path("written.rvk")).cores), bytes);
 }
 
 void TestVakFile::foreignContentOfTheRootOutlivesTheFirstCore()
