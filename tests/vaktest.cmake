@@ -4,7 +4,7 @@
 # vak_test(NAME SOURCES ... [LINK libs...] [MODULE] [FAKES] [XVFB]): a Qt Test program that ctest runs offscreen.
 #   MODULE  links the shipped plug-in library and the dialog driver.
 #   FAKES   puts the scripted doubles of IdeCore, OVTE, netcatcher and QUtility first, under the same SONAME; the program
-#           asserts in initTestCase() that support::missingDoubles() is empty.
+#           ends at once when it finds the real ones.
 #   XVFB    runs it on an X server of its own instead; without xvfb-run the test fails.
 
 function(vak_test name)
@@ -15,7 +15,7 @@ function(vak_test name)
     if(arg_FAKES)
         list(PREPEND rpath "${CMAKE_BINARY_DIR}/tests/fakelib")
         target_link_options(${name} PRIVATE -Wl,--no-as-needed)
-        target_link_libraries(${name} PRIVATE fake_IdeCore fake_OVTE fake_netcatcher fake_QUtility test_support)
+        target_link_libraries(${name} PRIVATE fake_IdeCore fake_OVTE fake_netcatcher fake_QUtility doubles_guard)
     endif()
     if(arg_MODULE)
         target_link_libraries(${name} PRIVATE RtlVakIns VakUtils Device ExtSys test_support)

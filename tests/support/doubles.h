@@ -7,10 +7,8 @@
 
 namespace support {
 
-/// Says which of the four scripted host libraries the program did not get; empty when it got them all. To be called
-/// first by every test program that is linked with the doubles:
-///
-///     void initTestCase() { QCOMPARE(support::missingDoubles(), QString()); }
+/// Says which of the four scripted host libraries the program did not get; empty when it got them all. Programs that
+/// are linked with the doubles check it before anything else (doublesguard.cpp).
 QString missingDoubles();
 
 /// The canonical path of the library or program that holds `address`.
