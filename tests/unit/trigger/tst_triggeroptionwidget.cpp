@@ -192,15 +192,20 @@ void tst_TriggerOptionWidget::anyRowBelowAPortEditsThatPort()
 void tst_TriggerOptionWidget::acceptedPortIsShownCurrentAndExpanded()
 {
     TriggerBench bench;
+    bench.core.getTrigger(4)->setSignalNet({single(QStringLiteral("rst"))});
+    QTreeWidgetItem *port = bench.ports().topLevelItem(4);
+    port->setExpanded(true);
     support::DialogDriver driver;
-    driver.answerDialogOf<RTLVAK::TriggerPortDialog>([](RTLVAK::TriggerPortDialog &dialog) {
+    driver.answerDialogOf<RTLVAK::TriggerPortDialog>([port, &bench](RTLVAK::TriggerPortDialog &dialog) {
+        port->setExpanded(false);
+        bench.ports().setCurrentItem(bench.ports().topLevelItem(0));
         support::child<RTLVAK::signalTreeWidget>(dialog, "treeWidget").appendSignal(single(QStringLiteral("clk")));
         dialog.accept();
     });
-    QTreeWidgetItem *port = bench.ports().topLevelItem(4);
-    support::doubleClickItem(bench.ports(), port);
-    QCOMPARE(names(bench.core.getTrigger(4)->getSignalNet()), QStringList{QStringLiteral("clk")});
-    QCOMPARE(port->childCount(), 1);
+    support::doubleClickItem(bench.ports(), port->child(0));
+    QCOMPARE(names(bench.core.getTrigger(4)->getSignalNet()),
+             QStringList({QStringLiteral("rst"), QStringLiteral("clk")}));
+    QCOMPARE(port->childCount(), 2);
     QCOMPARE(bench.ports().currentItem(), port);
     QVERIFY(port->isExpanded());
 }
@@ -373,6 +378,7 @@ void tst_TriggerOptionWidget::menuAddsAnExpression()
     bench.askForMenu();
     QCOMPARE(driver.menus().at(0).texts, QStringList({QStringLiteral("Add"), QStringLiteral("Remove")}));
     QCOMPARE(bench.expressionTexts(), QStringList({QStringLiteral("M0"), QStringLiteral("M1|M2")}));
+    QVERIFY(bench.expressions().item(1)->data(Qt::ForegroundRole).isValid());
     QCOMPARE(bench.expressionColours().constLast(), QStringLiteral("black"));
     QVERIFY(bench.core.expressions().size() == 1);
 }

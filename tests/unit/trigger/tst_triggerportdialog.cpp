@@ -225,6 +225,7 @@ void tst_TriggerPortDialog::exactly64InputsAreAccepted()
     TriggerPortDialog dialog(&port, nullptr);
     tree(dialog).appendSignal(bus(QStringLiteral("data"), 63));
     tree(dialog).appendSignal(single(QStringLiteral("clk")));
+    support::DialogDriver driver;
     press(dialog, QDialogButtonBox::Ok);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QCOMPARE(port.width(), 64);
