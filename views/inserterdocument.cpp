@@ -13,6 +13,8 @@
 #include <OVTE/designmanager.h>
 #include <OVTE/taskengine.h>
 #include <QUtility/eventmanager.h>
+#include <QUtility/ievent.h>
+#include <QUtility/messageevent.h>
 #include <netcatcher/rtlnetlist.h>
 
 #include <QDebug>
@@ -31,6 +33,14 @@ static constexpr int FileChangeDelayMs = 500;
 static TE::DesignManager *design()
 {
     return TE::TaskEngine::instance()->designManager();
+}
+
+/// Adds a line to the host's messages.
+static void tellHost(const char *severity, const QString &text)
+{
+    QUtil::EventManager::instance()->publish(
+        QUtil::IEvent(QUtil::MessageEvent::Type,
+                      {{QUtil::MessageEvent::Severity, QLatin1String(severity)}, {QUtil::MessageEvent::Text, text}}));
 }
 
 static void showValidationErrors(QWidget *view, const QString &text, const QString &errors)
@@ -321,8 +331,11 @@ void InserterDocument::keepUnsavedWork()
         return;
     applyPages();
     const QString copy = path() + QStringLiteral(".recovered");
-    if (!write(copy))
-        qWarning("can not keep the unsaved work on %s in %s", qUtf8Printable(path()), qUtf8Printable(copy));
+    if (write(copy))
+        tellHost(QUtil::MessageEvent::Warning,
+                 QStringLiteral("Unsaved work on %1 is kept in %2").arg(nativePath(), QDir::toNativeSeparators(copy)));
+    else
+        tellHost(QUtil::MessageEvent::Error, QStringLiteral("Can not keep the unsaved work on %1").arg(nativePath()));
 }
 
 void InserterDocument::closeContainer()

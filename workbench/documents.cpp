@@ -5,11 +5,13 @@
 
 #include "workbench/filedialogs.h"
 #include "workbench/pluginhost.h"
+#include "workbench/recoveredwork.h"
 #include "workbench/textview.h"
 #include "workbench/textviewmanager.h"
 
 #include "hostlibs/idecore/viewarea.h"
 #include "hostlibs/ovte/projectengine.h"
+#include "plugin/vakinserterview.h"
 #include "plugin/vakviewmanager.h"
 
 #include <Device/devicearg.h>
@@ -19,6 +21,8 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace Workbench {
 
@@ -47,6 +51,14 @@ QString projectFileNear(const QString &path)
             break;
     }
     return {};
+}
+
+static bool isShown(const QString &analyzerPath)
+{
+    const QList<RTLVAK::VakInserterView *> views = RTLVAK::VakViewManager::instance()->vakViews();
+    return std::any_of(views.cbegin(), views.cend(), [&analyzerPath](const RTLVAK::VakInserterView *view) {
+        return absoluteCleanPath(view->file()) == analyzerPath;
+    });
 }
 
 Documents::Documents(const PluginHost &plugins, QObject *parent)
@@ -140,6 +152,9 @@ bool Documents::openAnalyzer(const QString &path)
         return fail(tr("Can not open %1:\nThere is no such file.").arg(QDir::toNativeSeparators(absolute)));
     if (!provideProject(absolute))
         return false;
+    QString error;
+    if (!isShown(absolute) && !settleRecoveredWork(absolute, Core::ViewManager::dialogParent(), &error))
+        return fail(error);
     const TE::DeviceInfo device = engine().project().device;
     if (!RTLVAK::VakViewManager::openInserterView(absolute, DEV::DeviceArg(device.name, device.package)))
         return false;

@@ -7,6 +7,7 @@
 #include "workbench/devicedialog.h"
 #include "workbench/documents.h"
 #include "workbench/filedialogs.h"
+#include "workbench/hostmessages.h"
 #include "workbench/pluginhost.h"
 #include "workbench/pluginsdialog.h"
 #include "workbench/projectcontroller.h"
@@ -98,6 +99,7 @@ MainWindow::MainWindow(const PluginHost &plugins, QWidget *parent)
     connect(m_documents, &Documents::opened, m_recent, &RecentFiles::add);
     connect(m_documents, &Documents::message, m_messages, &MessagesPanel::add);
     connect(m_project, &ProjectController::message, m_messages, &MessagesPanel::add);
+    connect(new HostMessages(this), &HostMessages::message, m_messages, &MessagesPanel::add);
     connect(m_project, &ProjectController::messages, m_messages, &MessagesPanel::addLines);
     connect(m_messages, &MessagesPanel::placeRequested, m_documents, &Documents::openPlace);
     connect(m_area, &Core::ViewArea::viewTitleChanged, this, &MainWindow::updateTitle);
