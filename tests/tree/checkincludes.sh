@@ -26,7 +26,7 @@ declare -A may=(
 # Headers that cross against the direction, because the layout forces them to, and who may include them.
 declare -A crossing=(
     [plugin/vakinsexport.h]="widgets/ signals/ trigger/ capture/ views/"
-    [plugin/vakinserterview.h]="views/"
+    [plugin/vakinserterview.h]="views/ workbench/"
     [plugin/vakviewmanager.h]="workbench/"
 )
 top_folders=" host rules widgets signals trigger capture views plugin cli workbench hostlibs tests bench examples forms "
