@@ -50,6 +50,14 @@ static QPlainTextEdit *listEdit(const char *name, const QString &placeholder, QW
     return edit;
 }
 
+/// A form's own labels know their field only where it stands alone in its row.
+static QLabel *labelFor(QWidget *field, const QString &text)
+{
+    auto *label = new QLabel(text, field->parentWidget());
+    label->setBuddy(field);
+    return label;
+}
+
 QString firstWrongDefine(const QStringList &defines)
 {
     static const QRegularExpression pattern(R"(^[A-Za-z_][A-Za-z0-9_$]*(=.*)?$)");
@@ -96,9 +104,9 @@ ConfigurationDialog::ConfigurationDialog(QWidget *parent)
     folderRow->addWidget(m_includePaths, 1);
     folderRow->addWidget(addFolder, 0, Qt::AlignTop);
     auto *form = new QFormLayout;
-    form->addRow(tr("&Top module:"), topRow);
+    form->addRow(labelFor(m_top, tr("&Top module:")), topRow);
     form->addRow(QString(), m_found);
-    form->addRow(tr("&Include paths:"), folderRow);
+    form->addRow(labelFor(m_includePaths, tr("&Include paths:")), folderRow);
     form->addRow(tr("&Defines:"), m_defines);
     form->addRow(tr("&Language standard:"), m_standard);
     form->addRow(tr("&Synthesis tool:"), m_tool);

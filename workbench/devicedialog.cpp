@@ -106,7 +106,7 @@ DeviceDialog::DeviceDialog(const TE::DeviceInfo &current, QWidget *parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     fill(current);
-    resize(640, 520);
+    resize(720, 540);
     m_filter->setFocus();
 }
 
@@ -119,8 +119,9 @@ void DeviceDialog::fill(const TE::DeviceInfo &current)
         if (device.name == current.name)
             chosen = item;
     }
+    // In the catalogue's order until a person clicks a column's title.
+    m_tree->header()->setSortIndicator(-1, Qt::AscendingOrder);
     m_tree->setSortingEnabled(true);
-    m_tree->sortByColumn(FamilyColumn, Qt::AscendingOrder);
     for (int column = 0; column < ColumnCount; ++column)
         m_tree->resizeColumnToContents(column);
     m_tree->setCurrentItem(chosen);

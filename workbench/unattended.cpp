@@ -6,6 +6,9 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QTextEdit>
 
 #include <iostream>
 
@@ -17,14 +20,29 @@ Unattended::Unattended(QObject *parent)
     qApp->installEventFilter(this);
 }
 
+static QStringList textsOf(const QDialog &dialog)
+{
+    if (const auto *box = qobject_cast<const QMessageBox *>(&dialog))
+        return {box->text(), box->detailedText()};
+    QStringList texts;
+    for (const auto *edit : dialog.findChildren<QPlainTextEdit *>())
+        texts.append(edit->toPlainText());
+    for (const auto *edit : dialog.findChildren<QTextEdit *>())
+        texts.append(edit->toPlainText());
+    return texts;
+}
+
 bool Unattended::eventFilter(QObject *watched, QEvent *event)
 {
-    auto *box = event->type() == QEvent::Show ? qobject_cast<QMessageBox *>(watched) : nullptr;
-    if (box != nullptr) {
-        std::cerr << box->windowTitle().toStdString() << ": " << box->text().toStdString() << '\n';
-        if (!box->detailedText().isEmpty())
-            std::cerr << box->detailedText().toStdString() << '\n';
-        QMetaObject::invokeMethod(box, &QDialog::reject, Qt::QueuedConnection);
+    auto *dialog = event->type() == QEvent::Show ? qobject_cast<QDialog *>(watched) : nullptr;
+    // One that only shows progress goes away by itself.
+    if (dialog != nullptr && dialog->findChild<QProgressBar *>() == nullptr) {
+        std::cerr << dialog->windowTitle().toStdString() << ": ";
+        for (const QString &text : textsOf(*dialog)) {
+            if (!text.isEmpty())
+                std::cerr << text.toStdString() << '\n';
+        }
+        QMetaObject::invokeMethod(dialog, &QDialog::reject, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }

@@ -7,7 +7,7 @@
 
 namespace Workbench {
 
-/// For runs that nobody watches: prints what message boxes say and declines them, so that none waits for an answer.
+/// For runs that nobody watches: prints what boxes and dialogs say and declines them, so that none waits for an answer.
 class Unattended : public QObject
 {
     Q_OBJECT

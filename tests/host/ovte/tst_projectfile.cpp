@@ -28,6 +28,7 @@ private slots:
     void contentsAreOneFileALine();
     void writtenProjectReadsBackEqual();
     void sameProjectGivesTheSameBytes();
+    void exampleIsInNormalForm();
     void unknownMembersAreKept();
     void pathsAreRelativeToTheProject();
     void absentMembersHaveDefaults();
@@ -197,6 +198,16 @@ void TestProjectFile::sameProjectGivesTheSameBytes()
     Project read;
     QVERIFY(readProjectFile(path("soc.vakproj"), &read, &error));
     QCOMPARE(projectFileContents(read, dir->path()), first);
+}
+
+void TestProjectFile::exampleIsInNormalForm()
+{
+    const QString file = QString(VAK_TEST_DATA) + "/../../examples/soc/soc.vakproj";
+    Project project;
+    QString error;
+    QVERIFY2(readProjectFile(file, &project, &error), qPrintable(error));
+    QVERIFY(project.files.size() > 10);
+    QCOMPARE(projectFileContents(project, QFileInfo(file).absolutePath()), readText(file));
 }
 
 void TestProjectFile::unknownMembersAreKept()
