@@ -233,6 +233,7 @@ VerilatorEngine::Outcome VerilatorEngine::run()
             addError(QStringLiteral("Cannot write to %1.").arg(m_folder.path()));
             return Failed;
         }
+        m_progress({BuildProgress::RunningEngine, 0, 0});
         EngineLimits left = m_limits;
         left.milliseconds = qMax(qint64(1), m_limits.milliseconds - timer.elapsed());
         const EngineResult result = runEngine(program, arguments(), m_folder.path(), left, [this] {
