@@ -96,6 +96,8 @@ bool Reader::read(const std::function<void(qint64)> &progress, QString *error)
             open();
         else if (token == QXmlStreamReader::EndElement)
             close();
+        else if (token == QXmlStreamReader::DTD)
+            xml.raiseError(QStringLiteral("a document type definition"));
         if (++elements % 4096 == 0)
             progress(xml.device()->pos());
     }
@@ -242,6 +244,10 @@ void Reader::addFile()
 
 void Reader::openModule(Tag tag)
 {
+    if (isInModule()) {
+        xml.raiseError(QStringLiteral("a module inside of a module"));
+        return;
+    }
     RawModule module;
     module.key = text("name");
     module.name = text("origName");
@@ -304,6 +310,10 @@ void Reader::openInstance()
 
 void Reader::openPort(Frame &frame)
 {
+    if (!isInModule() || design.modules.back().instances.empty()) {
+        xml.raiseError(QStringLiteral("a port outside of an instance"));
+        return;
+    }
     const QByteArray direction = text("direction");
     frame.access = direction == "in" ? Access::InputPort : direction == "out" ? Access::Write : Access::Unknown;
     frame.writeUses = UseDriven;
