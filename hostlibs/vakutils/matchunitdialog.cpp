@@ -237,7 +237,7 @@ void MatchUnitDialog::Private::showValues()
     const QString number0 = valueAsNumber(value0);
     const QString number1 = valueAsNumber(value1);
     QLineEdit *culprit = nullptr;
-    showMessage(error(&culprit), number1.isEmpty() ? number0 : QStringLiteral("%1 .. %2").arg(number0, number1));
+    showMessage(error(&culprit), number1.isEmpty() ? number0 : QStringLiteral("%1\n%2").arg(number0, number1));
 }
 
 void MatchUnitDialog::Private::showMessage(const QString &message, const QString &numbers)

@@ -20,6 +20,7 @@ static QLineEdit *newValueEdit(QWidget *parent)
 {
     auto *edit = new QLineEdit(parent);
     edit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 66); // the widest port, and a frame
     edit->setToolTip(MatchUnitDialog::tr("One character for each bit, most significant first, or a number: "
                                          "0b1010, 0xA, 10. The character _ may divide it."));
     return edit;
@@ -28,9 +29,7 @@ static QLineEdit *newValueEdit(QWidget *parent)
 static QLabel *newTextLabel(QWidget *parent)
 {
     auto *label = new QLabel(parent);
-    label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
-    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     return label;
 }
 
@@ -54,6 +53,7 @@ MatchUnitForm::MatchUnitForm(QDialog *dialog)
     comboCounter->addItems(
         {MatchUnitDialog::tr("Off"), MatchUnitDialog::tr("Total"), MatchUnitDialog::tr("Consecutive")});
     spinCount->setRange(1, MaxMatchCount);
+    labelHint->setWordWrap(true);
     name();
     arrange(dialog);
 }

@@ -38,6 +38,7 @@ private slots:
     void wrongTextIsRefusedWhole_data();
     void wrongTextIsRefusedWhole();
     void missingFileIsNamed();
+    void documentedExampleIsAccepted();
     void userFilesExtendTheCatalogue();
 
 private:
@@ -216,6 +217,19 @@ void TestDeviceCatalogue::missingFileIsNamed()
     QString error;
     QVERIFY(!catalogue.addFile(QStringLiteral("/nowhere/x.json"), &error));
     QCOMPARE(error, QStringLiteral("/nowhere/x.json: No such file or directory"));
+}
+
+void TestDeviceCatalogue::documentedExampleIsAccepted()
+{
+    QFile documentation(QStringLiteral(VAK_DOCS "/devices.md"));
+    QVERIFY(documentation.open(QIODevice::ReadOnly));
+    const QByteArray text = documentation.readAll();
+    const int begin = text.indexOf("```json\n") + 8;
+    DeviceCatalogue catalogue;
+    QString error;
+    QVERIFY2(catalogue.addJson(text.mid(begin, text.indexOf("```", begin) - begin), &error), qPrintable(error));
+    QCOMPARE(catalogue.devices().size(), 2);
+    QCOMPARE(shapeText(catalogue.find(QStringLiteral("LAB-3"))->blockShapes), QStringLiteral("1024x8 512x16 "));
 }
 
 static bool writeCatalogueFile(const QTemporaryDir &home, const char *name, const QByteArray &text)
