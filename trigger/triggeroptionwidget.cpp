@@ -87,6 +87,7 @@ void TriggerOptionWidget::setUpViews()
            "Dynamic: the expressions can be changed while the design runs; each takes storage, "
            "and M10 to M15 are not available."));
     private_impl::setUpMatchUnitTable(ui->tableMu, matchUnits);
+    ui->treeTrigger->setMinimumWidth(private_impl::portRowWidth(ui->treeTrigger));
     ui->splitter->setSizes({210, 440, 240});
     ui->splitter->setStretchFactor(0, 2);
     ui->splitter->setStretchFactor(1, 2);

@@ -9,6 +9,7 @@
 #include <VakUtils/triggerport.h>
 
 #include <QCoreApplication>
+#include <QStyle>
 #include <QTreeWidget>
 
 namespace RTLVAK::private_impl {
@@ -45,6 +46,13 @@ void refreshTriggerPorts(QTreeWidget *tree, const VAK::AoCore *core)
         if (const VAK::TriggerPort *port = core->getTrigger(i))
             refreshPort(tree->topLevelItem(i), port);
     }
+}
+
+int portRowWidth(const QTreeWidget *tree)
+{
+    const int text = tree->fontMetrics().horizontalAdvance(QStringLiteral("Trigger Port 15"));
+    const int scrollBar = tree->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, tree);
+    return tree->indentation() + text + scrollBar + 4 * tree->frameWidth() + 4;
 }
 
 QTreeWidgetItem *portRowOf(QTreeWidgetItem *row)

@@ -19,6 +19,8 @@ enum TriggerRow : int { PortRow = 1001, PortSignalRow = 1002 };
 void fillTriggerPorts(QTreeWidget *tree, const VAK::AoCore *core);
 /// Shows the signals that the ports have now.
 void refreshTriggerPorts(QTreeWidget *tree, const VAK::AoCore *core);
+/// The width that shows the name of every port.
+int portRowWidth(const QTreeWidget *tree);
 /// The port's row above (or at) `row`.
 QTreeWidgetItem *portRowOf(QTreeWidgetItem *row);
 

@@ -9,6 +9,7 @@
 #include "trigger/muexpressiondialog.h"
 #include "trigger/triggerportdialog.h"
 #include "trigger/triggersingalselectdialog.h"
+#include "workbench/appearance.h"
 
 #include <VakUtils/aocore.h>
 #include <VakUtils/matchunitdialog.h>
@@ -31,7 +32,7 @@ static void render(QWidget &widget, const QDir &folder, const char *name)
 static void renderPage(VAK::AoCore &core, const QDir &folder)
 {
     RTLVAK::AoOptionWidget page(&core, nullptr);
-    page.resize(900, 600);
+    page.resize(820, 520);
     auto *ports = page.findChild<QTreeWidget *>(QStringLiteral("treeTrigger"));
     for (int port : {1, 2})
         ports->topLevelItem(port)->setExpanded(true);
@@ -60,6 +61,7 @@ static void renderDialogs(VAK::AoCore &core, const QDir &folder)
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
+    Workbench::applyAppearance(application);
     if (argc != 3)
         qFatal("usage: render_pictures EXAMPLE_FOLDER TARGET_FOLDER");
     const QDir example(QString::fromLocal8Bit(argv[1]));
