@@ -43,6 +43,7 @@ protected:
 private:
     struct Actions;
     void createActions();
+    void connectActions();
     void createMenus();
     void createToolBar();
     void createPanels();

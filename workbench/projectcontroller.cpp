@@ -60,10 +60,29 @@ QString ProjectController::folder() const
     return engine().isOpen() ? engine().workingDir() : QDir::homePath();
 }
 
+/// Whether what another program wrote into the project file may be replaced. If it is wanted instead, it is opened.
+bool ProjectController::mayOverwrite()
+{
+    if (!engine().isChangedOutside())
+        return true;
+    QMessageBox box(QMessageBox::Question, tr("Project"),
+                    tr("Another program has changed \"%1\" since it was opened here.")
+                        .arg(QDir::toNativeSeparators(engine().projectFile())),
+                    QMessageBox::Save | QMessageBox::Discard, dialogParent());
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("Save writes the project as it is here over those changes.\n"
+                              "Discard gives up what was changed here and opens the file anew."));
+    box.setEscapeButton(QMessageBox::Save);
+    if (box.exec() == QMessageBox::Save)
+        return true;
+    m_documents.openProject(engine().projectFile());
+    return false;
+}
+
 bool ProjectController::save()
 {
     QString error;
-    if (!engine().isModified() || engine().saveProject(&error))
+    if (!engine().isModified() || !mayOverwrite() || engine().saveProject(&error))
         return true;
     emit message(Severity::Error, error);
     return false;
@@ -72,12 +91,42 @@ bool ProjectController::save()
 bool ProjectController::saveBeforeQuit()
 {
     m_saveSoon.stop();
+    if (engine().isModified() && engine().projectFile().isEmpty())
+        return askForProjectFile();
     if (save())
         return true;
     return QMessageBox::question(
                dialogParent(), tr("Project"),
                tr("The project could not be saved; the messages say why.\nGo on and lose the changes?"),
                QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Discard;
+}
+
+/// A project that came from a file list has no file of its own, and loses its changes without one.
+bool ProjectController::askForProjectFile()
+{
+    const auto answer =
+        QMessageBox::question(dialogParent(), tr("Project"),
+                              tr("The design was opened from a file list and has been changed.\nSave it as a project?"),
+                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (answer == QMessageBox::Save)
+        saveProjectAs();
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && !engine().isModified());
+}
+
+void ProjectController::saveProjectAs()
+{
+    const QString own = engine().projectFile();
+    const QString name = own.isEmpty() ? QString("project") : QFileInfo(own).completeBaseName() + "-copy";
+    const QString proposal = QDir(folder()).filePath(name + ".vakproj");
+    const QString path =
+        askForNewFile(dialogParent(), tr("Save Project As"), proposal, FileFilter::projects(), "vakproj");
+    QString error;
+    if (path.isEmpty())
+        return;
+    if (!engine().saveProjectAs(path, &error)) {
+        emit message(Severity::Error, error);
+        showError(error);
+    }
 }
 
 void ProjectController::newProject()

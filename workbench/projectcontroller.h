@@ -30,6 +30,7 @@ public:
     void chooseDevice();
     /// Closes the views and then the project; false when a view refused.
     bool closeProject();
+    void saveProjectAs();
     /// Saves what is not saved yet. False when it could not be saved and the person does not want to go on.
     bool saveBeforeQuit();
 
@@ -39,6 +40,8 @@ signals:
 
 private:
     bool save();
+    bool mayOverwrite();
+    bool askForProjectFile();
     QString folder() const;
 
     Documents &m_documents;

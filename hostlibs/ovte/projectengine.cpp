@@ -13,6 +13,7 @@
 #include <QUtility/ievent.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -23,7 +24,8 @@ struct ProjectEngine::Private
 {
     Project project;
     QString projectFile;
-    QString folder; ///< empty with no project
+    QString folder;    ///< empty with no project
+    QByteArray onDisk; ///< the project file as read or written last
     bool modified = false;
     std::unique_ptr<FileWatcher> watcher;
 };
@@ -42,6 +44,14 @@ static void assign(QString *error, const QString &text)
 static QString absoluteCleanPath(const QString &path)
 {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+static QByteArray contentsOf(const QString &path)
+{
+    if (path.isEmpty())
+        return {};
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// A list as a person means it: without blank entries and repetitions.
@@ -145,8 +155,33 @@ bool ProjectEngine::saveProject(QString *error)
         assign(error, text);
         return false;
     }
+    d->onDisk = contentsOf(d->projectFile);
     setModified(false);
     return true;
+}
+
+bool ProjectEngine::saveProjectAs(const QString &projectFile, QString *error)
+{
+    const QString path = absoluteCleanPath(projectFile);
+    const QDir oldFolder(d->folder);
+    const QDir newFolder(QFileInfo(path).absolutePath());
+    Project moved = d->project;
+    for (QString &includePath : moved.includePaths) {
+        if (QDir::isRelativePath(includePath))
+            includePath = newFolder.relativeFilePath(oldFolder.absoluteFilePath(includePath));
+    }
+    QString text;
+    if (!writeProjectFile(moved, path, &text)) {
+        assign(error, text);
+        return false;
+    }
+    replaceProject(moved, path, newFolder.path());
+    return true;
+}
+
+bool ProjectEngine::isChangedOutside() const
+{
+    return !d->projectFile.isEmpty() && QFileInfo::exists(d->projectFile) && contentsOf(d->projectFile) != d->onDisk;
 }
 
 void ProjectEngine::closeProject()
@@ -161,6 +196,7 @@ void ProjectEngine::replaceProject(const Project &project, const QString &projec
     d->project = project;
     d->projectFile = projectFile;
     d->folder = folder;
+    d->onDisk = contentsOf(projectFile);
     setModified(false);
     updateWatcher();
     emit projectChanged();

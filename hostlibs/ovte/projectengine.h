@@ -39,6 +39,11 @@ public:
     bool importFileList(const QString &listFile, QStringList *notes = nullptr, QString *error = nullptr);
     /// Writes the project file unless it already says the same. A project without a file of its own is never written.
     bool saveProject(QString *error = nullptr);
+    /// Writes the project to another file, which is the project's from then on. Paths are kept: relative ones are
+    /// written anew from the other folder.
+    bool saveProjectAs(const QString &projectFile, QString *error = nullptr);
+    /// Whether the project file on disk is another one than was read or written here last.
+    bool isChangedOutside() const;
     void closeProject();
 
     bool isOpen() const;

@@ -13,6 +13,7 @@
 #include "workbench/textview.h"
 
 #include <IdeCore/viewmanager.h>
+#include <OVTE/designmanager.h>
 #include <VakUtils/aocore.h>
 #include <VakUtils/vakfile.h>
 
@@ -67,6 +68,9 @@ private slots:
     void cancelledConfigurationChangesNothing();
     void deviceIsChosen();
     void newProjectIsMadeAndOpened();
+    void otherProgramsProjectIsNotOverwrittenUnasked();
+    void changedFileListIsOfferedAsAProject();
+    void projectIsSavedElsewhere();
     void newAnalyzerFileHasNoCores();
     void newLiteFileOpens();
     void analyzerFindsItsProject();
@@ -508,6 +512,50 @@ void TestMainWindow::newProjectIsMadeAndOpened()
     QCOMPARE(TE::ProjectEngine::instance()->projectFile(), path("sub/fresh.vakproj"));
     QVERIFY(projectFiles().isEmpty());
     QVERIFY(QFile::exists(path("sub/fresh.vakproj")));
+}
+
+void TestMainWindow::otherProgramsProjectIsNotOverwrittenUnasked()
+{
+    QVERIFY(window->open(path("blink.vakproj")));
+    const QByteArray theirs = "{\"vakproj\": 1, \"top\": \"theirs\"}";
+    dir->write("blink.vakproj", theirs);
+    DialogDriver driver;
+    driver.answerBox(QMessageBox::Discard);
+    TE::ProjectEngine::instance()->setFileEnabled("blink.v", false);
+    QCOMPARE(savedProject(), theirs);
+    QCOMPARE(driver.boxes().at(0).text,
+             QString("Another program has changed \"%1\" since it was opened here.").arg(path("blink.vakproj")));
+    QCOMPARE(TE::ProjectEngine::instance()->project().topModule, QString("theirs"));
+    dir->write("blink.vakproj", "{\"vakproj\": 1}");
+    driver.answerBox(QMessageBox::Save);
+    TE::ProjectEngine::instance()->setOption(TE::OptionName::TopModule, "ours");
+    QVERIFY(savedProject().contains("\"top\": \"ours\""));
+}
+
+void TestMainWindow::changedFileListIsOfferedAsAProject()
+{
+    dir->write("files.f", "blink.v divider.v");
+    QVERIFY(window->open(path("files.f")));
+    TE::ProjectEngine::instance()->setOption(TE::OptionName::TopModule, "blink");
+    DialogDriver driver;
+    driver.answerBox(QMessageBox::Cancel);
+    QVERIFY(!window->close());
+    driver.answerBox(QMessageBox::Save);
+    driver.chooseFile(path("kept"));
+    QVERIFY(window->close());
+    QVERIFY(dir->read("kept.vakproj").contains("\"path\": \"divider.v\""));
+}
+
+void TestMainWindow::projectIsSavedElsewhere()
+{
+    QVERIFY(window->open(path("blink.vakproj")));
+    QDir().mkpath(path("copy"));
+    DialogDriver driver;
+    driver.chooseFile(path("copy/second.vakproj"));
+    trigger("actionSaveProjectAs");
+    QCOMPARE(TE::ProjectEngine::instance()->projectFile(), path("copy/second.vakproj"));
+    QVERIFY(window->windowTitle().startsWith("second "));
+    QCOMPARE(support::allTexts(projectTree()), QStringList({"Design", "  ../blink.v", "  ../divider.v"}));
 }
 
 void TestMainWindow::newAnalyzerFileHasNoCores()

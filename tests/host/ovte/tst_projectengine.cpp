@@ -45,6 +45,8 @@ private slots:
     void fileListIsImported();
     void importNeedsAProject();
     void savingClearsModified();
+    void savedElsewhereKeepsItsPaths();
+    void changeByAnotherProgramIsNoticed();
     void contentsChangeIsPublished();
     void rewritingTheSameIsNotPublished();
     void replacementByRenameIsPublishedAgainAndAgain();
@@ -337,6 +339,41 @@ void TestProjectEngine::savingClearsModified()
     QVERIFY(engine->saveProject());
     QCOMPARE(modified, QList<QVariantList>({{true}, {false}}));
     QVERIFY(readText(path("soc.vakproj")).contains("\"path\": \"b.v\""));
+}
+
+void TestProjectEngine::savedElsewhereKeepsItsPaths()
+{
+    engine->addFile("rtl/a.v");
+    engine->setOption(OptionName::IncludePath, QStringList({"inc", "/abs"}));
+    log->take();
+    QDir().mkpath(path("other"));
+    QVERIFY(engine->saveProjectAs(path("other/b.vakproj")));
+    QCOMPARE(engine->projectFile(), path("other/b.vakproj"));
+    QCOMPARE(engine->workingDir(), path("other"));
+    QVERIFY(!engine->isModified());
+    QCOMPARE(engine->project().includePaths, QStringList({"../inc", "/abs"}));
+    QCOMPARE(engine->project().files.at(0).path, path("rtl/a.v"));
+    QVERIFY(readText(path("other/b.vakproj")).contains("\"path\": \"../rtl/a.v\""));
+    QVERIFY(log->lines.isEmpty());
+    QString error;
+    QVERIFY(!engine->saveProjectAs(path("none/b.vakproj"), &error));
+    QVERIFY(error.contains("none/b.vakproj"));
+    QCOMPARE(engine->projectFile(), path("other/b.vakproj"));
+}
+
+void TestProjectEngine::changeByAnotherProgramIsNoticed()
+{
+    QVERIFY(!engine->isChangedOutside());
+    engine->addFile("a.v");
+    QVERIFY(!engine->isChangedOutside());
+    QVERIFY(engine->saveProject());
+    QVERIFY(!engine->isChangedOutside());
+    writeText(path("soc.vakproj"), "{\"vakproj\": 1}");
+    QVERIFY(engine->isChangedOutside());
+    QVERIFY(engine->openProject(path("soc.vakproj")));
+    QVERIFY(!engine->isChangedOutside());
+    QVERIFY(QFile::remove(path("soc.vakproj")));
+    QVERIFY(!engine->isChangedOutside());
 }
 
 void TestProjectEngine::contentsChangeIsPublished()
