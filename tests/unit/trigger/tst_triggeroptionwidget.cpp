@@ -3,24 +3,14 @@
 
 #include "triggerpage.h"
 
-#include "trigger/muexpressiondialog.h"
-#include "trigger/triggerportdialog.h"
-
-#include "signals/signaltreewidget.h"
-
-#include "tests/fakes/fakedesign.h"
 #include "tests/fakes/fakeevents.h"
 #include "tests/support/doubles.h"
 #include "tests/support/scriptedresources.h"
 
 #include <QUtility/ievent.h>
 #include <VakUtils/matchunit.h>
-#include <VakUtils/matchunitdialog.h>
-#include <VakUtils/triggerport.h>
 
 #include <QGroupBox>
-#include <QHeaderView>
-#include <QPushButton>
 #include <QtTest>
 
 class tst_TriggerOptionWidget : public QObject
@@ -31,36 +21,12 @@ private slots:
     void initTestCase();
     void slotsStandInTheirOrder();
     void formTextsAndStyles();
-    void portsAndTheirSignals();
-    void portToolTipSaysHowManyInputsItHas();
-    void missingTriggerSignalsAreRed();
-    void portRowDoesNotExpandOnDoubleClick();
-    void anyRowBelowAPortEditsThatPort_data();
-    void anyRowBelowAPortEditsThatPort();
-    void acceptedPortIsShownCurrentAndExpanded();
-    void cancelledPortDialogChangesNothing();
-    void matchUnitTable();
-    void dynamicModeShowsTenUnits();
-    void acceptedUnitWithAPortIsEnabled();
-    void acceptedUnitWithoutAPortStaysAsItIs();
-    void cancelledUnitDialogChangesNothing();
     void staticCoreHidesTheDynamicSettings();
     void dynamicCoreShowsItsSettings_data();
     void dynamicCoreShowsItsSettings();
     void deviceWithoutShadowRamShowsBlockRamForAStoredShadowRam();
     void modeSwitchShowsAndHidesTheSettings();
     void modeBoxExplainsItself();
-    void expressionsOfTheCoreAreShown();
-    void menuAddsAnExpression();
-    void removeIsOfferedForASelection();
-    void removeDeletesEverySelectedRow();
-    void doubleClickOnEmptyPlaceAddsAnExpression();
-    void doubleClickOnARowEditsIt();
-    void cancellingTheExpressionDialogKeepsTheText();
-    void expressionDialogStartsEmptyAlsoWhenEditing();
-    void sixteenExpressionsAreTheMost();
-    void dynamicModeDisablesButtonsOfHighUnits();
-    void highUnitsAreGreyInDynamicModeOnly();
     void usageTexts_data();
     void usageTexts();
     void usageFollowsEveryChange();
@@ -71,7 +37,6 @@ private slots:
     void nothingReachesTheCoreBeforeApply();
     void deviceChangeRefillsTheStorage();
     void otherEventsAreIgnored();
-    void refreshShowsWhatThePortsHaveNow();
     void pageThatDiesUnderItsDialog();
 };
 
@@ -109,192 +74,6 @@ void tst_TriggerOptionWidget::formTextsAndStyles()
     QCOMPARE(bench.expressions().styleSheet(), QStringLiteral("QListWidget::item { height: 24px}"));
     QCOMPARE(bench.expressions().selectionMode(), QAbstractItemView::ExtendedSelection);
     QCOMPARE(bench.expressions().contextMenuPolicy(), Qt::CustomContextMenu);
-}
-
-void tst_TriggerOptionWidget::portsAndTheirSignals()
-{
-    TriggerBench bench;
-    VAK::SignalItem renamed = single(QStringLiteral("clk"));
-    renamed.displayName = QStringLiteral("my clock");
-    bench.core.getTrigger(2)->setSignalNet({bus(QStringLiteral("data"), 2), renamed});
-    QCOMPARE(bench.ports().topLevelItemCount(), 16);
-    QCOMPARE(bench.ports().topLevelItem(0)->text(0), QStringLiteral("Trigger Port 0"));
-    QCOMPARE(bench.ports().topLevelItem(15)->text(0), QStringLiteral("Trigger Port 15"));
-    const QTreeWidgetItem *port = bench.ports().topLevelItem(2);
-    QCOMPARE(port->type(), 1001);
-    QCOMPARE(port->childCount(), 2);
-    QCOMPARE(port->child(0)->type(), 1002);
-    QCOMPARE(port->child(0)->child(1)->type(), 1002);
-    QCOMPARE(port->child(0)->child(1)->text(0), QStringLiteral("data[0]"));
-    QCOMPARE(port->child(1)->text(0), QStringLiteral("my clock"));
-    QCOMPARE(port->child(1)->toolTip(0), QStringLiteral("my clock"));
-    QVERIFY(port->child(1)->font(0).italic());
-    QCOMPARE(port->child(1)->data(0, Qt::UserRole).value<VAK::SignalItem>(), renamed);
-}
-
-void tst_TriggerOptionWidget::portToolTipSaysHowManyInputsItHas()
-{
-    TriggerBench bench;
-    bench.core.getTrigger(2)->setSignalNet({bus(QStringLiteral("data"), 8), single(QStringLiteral("clk"))});
-    QVERIFY(bench.ports().topLevelItem(2)->toolTip(0).contains(QStringLiteral("9")));
-    QVERIFY(bench.ports().topLevelItem(3)->toolTip(0).contains(QStringLiteral("0")));
-}
-
-void tst_TriggerOptionWidget::missingTriggerSignalsAreRed()
-{
-    TriggerBench bench;
-    VAK::SignalItem gone = single(QStringLiteral("gone"));
-    gone.present = false;
-    VAK::SignalItem part = bus(QStringLiteral("data"), 2);
-    part.members[1].present = false;
-    bench.core.getTrigger(0)->setSignalNet({gone, part});
-    const QTreeWidgetItem *port = bench.ports().topLevelItem(0);
-    QCOMPARE(port->child(0)->foreground(0).color(), QColor(Qt::red));
-    QCOMPARE(port->child(1)->foreground(0).color(), QColor(Qt::red)); // a bus without one of its bits
-    QCOMPARE(port->child(1)->child(0)->foreground(0).color(), QColor(Qt::black));
-    QCOMPARE(port->child(1)->child(1)->foreground(0).color(), QColor(Qt::red));
-}
-
-void tst_TriggerOptionWidget::portRowDoesNotExpandOnDoubleClick()
-{
-    TriggerBench bench;
-    QVERIFY(!bench.ports().expandsOnDoubleClick());
-}
-
-void tst_TriggerOptionWidget::anyRowBelowAPortEditsThatPort_data()
-{
-    QTest::addColumn<int>("depth");
-    QTest::newRow("the port") << 0;
-    QTest::newRow("a signal") << 1;
-    QTest::newRow("a bit of a bus") << 2;
-}
-
-void tst_TriggerOptionWidget::anyRowBelowAPortEditsThatPort()
-{
-    QFETCH(int, depth);
-    TriggerBench bench;
-    bench.core.getTrigger(1)->setSignalNet({single(QStringLiteral("rst"))});
-    bench.core.getTrigger(3)->setSignalNet({bus(QStringLiteral("data"), 2)});
-    QTreeWidgetItem *row = bench.ports().topLevelItem(3);
-    bench.ports().expandAll();
-    for (int level = 0; level < depth; ++level)
-        row = row->child(0);
-    support::DialogDriver driver;
-    QStringList shown;
-    driver.answerDialogOf<RTLVAK::TriggerPortDialog>([&shown](RTLVAK::TriggerPortDialog &dialog) {
-        shown = support::topTexts(support::child<QTreeWidget>(dialog, "treeWidget"));
-        dialog.reject();
-    });
-    support::doubleClickItem(bench.ports(), row);
-    QCOMPARE(shown, QStringList{QStringLiteral("data[1:0]")});
-}
-
-void tst_TriggerOptionWidget::acceptedPortIsShownCurrentAndExpanded()
-{
-    TriggerBench bench;
-    bench.core.getTrigger(4)->setSignalNet({single(QStringLiteral("rst"))});
-    QTreeWidgetItem *port = bench.ports().topLevelItem(4);
-    port->setExpanded(true);
-    support::DialogDriver driver;
-    driver.answerDialogOf<RTLVAK::TriggerPortDialog>([port, &bench](RTLVAK::TriggerPortDialog &dialog) {
-        port->setExpanded(false);
-        bench.ports().setCurrentItem(bench.ports().topLevelItem(0));
-        support::child<RTLVAK::signalTreeWidget>(dialog, "treeWidget").appendSignal(single(QStringLiteral("clk")));
-        dialog.accept();
-    });
-    support::doubleClickItem(bench.ports(), port->child(0));
-    QCOMPARE(names(bench.core.getTrigger(4)->getSignalNet()),
-             QStringList({QStringLiteral("rst"), QStringLiteral("clk")}));
-    QCOMPARE(port->childCount(), 2);
-    QCOMPARE(bench.ports().currentItem(), port);
-    QVERIFY(port->isExpanded());
-}
-
-void tst_TriggerOptionWidget::cancelledPortDialogChangesNothing()
-{
-    TriggerBench bench;
-    bench.core.getTrigger(0)->setSignalNet({single(QStringLiteral("clk"))});
-    QSignalSpy spy(&bench.page(), &RTLVAK::TriggerOptionWidget::modified);
-    support::DialogDriver driver;
-    cancelDialog(driver);
-    support::doubleClickItem(bench.ports(), bench.ports().topLevelItem(0));
-    QCOMPARE(spy.count(), 0);
-    QVERIFY(!bench.ports().topLevelItem(0)->isExpanded());
-}
-
-void tst_TriggerOptionWidget::matchUnitTable()
-{
-    TriggerBench bench;
-    QCOMPARE(bench.units().model()->rowCount(), 16);
-    QVERIFY(bench.units().isColumnHidden(1));
-    QVERIFY(!bench.units().isColumnHidden(0));
-    QVERIFY(bench.units().verticalHeader()->isHidden());
-    QVERIFY(!bench.units().horizontalHeader()->highlightSections());
-    QCOMPARE(bench.units().selectionBehavior(), QAbstractItemView::SelectRows);
-    QCOMPARE(bench.units().selectionMode(), QAbstractItemView::SingleSelection);
-    QCOMPARE(bench.units().horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
-}
-
-void tst_TriggerOptionWidget::dynamicModeShowsTenUnits()
-{
-    TriggerBench bench;
-    bench.core.setTriggerMode(VAK::DynamicTrigger);
-    QCOMPARE(bench.units().model()->rowCount(), 10);
-    bench.mode().setCurrentIndex(0);
-    QCOMPARE(bench.units().model()->rowCount(), 16);
-    bench.mode().setCurrentIndex(1);
-    QCOMPARE(bench.units().model()->rowCount(), 10);
-    QCOMPARE(bench.units().model()->index(9, 0).data().toString(), QStringLiteral("M9"));
-}
-
-static void acceptUnit(support::DialogDriver &driver, const char *port)
-{
-    const QString text = QString::fromLatin1(port);
-    driver.answerDialogOf<VAK::MatchUnitDialog>([text](VAK::MatchUnitDialog &dialog) {
-        auto &ports = support::child<QComboBox>(dialog, "comboPort");
-        for (int i = 0; i < ports.count(); ++i) {
-            if (ports.itemText(i).startsWith(text))
-                ports.setCurrentIndex(i);
-        }
-        dialog.accept();
-    });
-}
-
-void tst_TriggerOptionWidget::acceptedUnitWithAPortIsEnabled()
-{
-    TriggerBench bench;
-    bench.core.getTrigger(0)->setSignalNet({bus(QStringLiteral("data"), 4)});
-    bench.page();
-    support::DialogDriver driver;
-    acceptUnit(driver, "Trigger Port 0");
-    bench.doubleClickUnit(5);
-    QCOMPARE(bench.core.matchUnit(5)->triggerPort(), bench.core.getTrigger(0));
-    QVERIFY(bench.core.matchUnit(5)->isEnabled());
-    QCOMPARE(bench.units().model()->index(5, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
-    QVERIFY(bench.units().model()->index(5, 2).data().toString().contains(QStringLiteral("Trigger Port 0")));
-}
-
-void tst_TriggerOptionWidget::acceptedUnitWithoutAPortStaysAsItIs()
-{
-    TriggerBench bench;
-    QSignalSpy spy(&bench.page(), &RTLVAK::TriggerOptionWidget::modified);
-    support::DialogDriver driver;
-    acceptUnit(driver, "(none)");
-    bench.doubleClickUnit(2);
-    QVERIFY(!bench.core.matchUnit(2)->isEnabled());
-    QCOMPARE(spy.count(), 1);
-}
-
-void tst_TriggerOptionWidget::cancelledUnitDialogChangesNothing()
-{
-    TriggerBench bench;
-    bench.core.matchUnit(1)->setTriggerPort(bench.core.getTrigger(0));
-    QSignalSpy spy(&bench.page(), &RTLVAK::TriggerOptionWidget::modified);
-    support::DialogDriver driver;
-    cancelDialog(driver);
-    bench.doubleClickUnit(1);
-    QVERIFY(!bench.core.matchUnit(1)->isEnabled());
-    QCOMPARE(spy.count(), 0);
 }
 
 void tst_TriggerOptionWidget::staticCoreHidesTheDynamicSettings()
@@ -357,178 +136,6 @@ void tst_TriggerOptionWidget::modeBoxExplainsItself()
 {
     TriggerBench bench;
     QVERIFY(bench.mode().toolTip().contains(QStringLiteral("M10 to M15 are not available")));
-}
-
-void tst_TriggerOptionWidget::expressionsOfTheCoreAreShown()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M0&M1"), QStringLiteral("M12"), QStringLiteral("M0&M1")});
-    QCOMPARE(bench.expressionTexts(), bench.core.expressions());
-    QCOMPARE(bench.expressionColours().join(u' '), QStringLiteral("black black black"));
-}
-
-void tst_TriggerOptionWidget::menuAddsAnExpression()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M0")});
-    bench.page();
-    support::DialogDriver driver;
-    driver.chooseFromMenu(QStringLiteral("Add"));
-    composeExpression(driver, {"btnM1", "btnOR", "btnM2"});
-    bench.askForMenu();
-    QCOMPARE(driver.menus().at(0).texts, QStringList({QStringLiteral("Add"), QStringLiteral("Remove")}));
-    QCOMPARE(bench.expressionTexts(), QStringList({QStringLiteral("M0"), QStringLiteral("M1|M2")}));
-    QVERIFY(bench.expressions().item(1)->data(Qt::ForegroundRole).isValid());
-    QCOMPARE(bench.expressionColours().constLast(), QStringLiteral("black"));
-    QVERIFY(bench.core.expressions().size() == 1);
-}
-
-void tst_TriggerOptionWidget::removeIsOfferedForASelection()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M0"), QStringLiteral("M1")});
-    bench.page();
-    support::DialogDriver driver;
-    driver.dismissMenu();
-    bench.askForMenu();
-    QCOMPARE(driver.menus().at(0).enabledTexts, QStringList{QStringLiteral("Add")});
-    bench.expressions().item(1)->setSelected(true);
-    driver.dismissMenu();
-    bench.askForMenu();
-    QCOMPARE(driver.menus().at(1).enabledTexts, QStringList({QStringLiteral("Add"), QStringLiteral("Remove")}));
-}
-
-void tst_TriggerOptionWidget::removeDeletesEverySelectedRow()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M0"), QStringLiteral("M1"), QStringLiteral("M2")});
-    bench.expressions().item(0)->setSelected(true);
-    bench.expressions().item(2)->setSelected(true);
-    support::DialogDriver driver;
-    driver.chooseFromMenu(QStringLiteral("Remove"));
-    bench.askForMenu();
-    QCOMPARE(bench.expressionTexts(), QStringList{QStringLiteral("M1")});
-}
-
-void tst_TriggerOptionWidget::doubleClickOnEmptyPlaceAddsAnExpression()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M0")});
-    bench.page();
-    support::DialogDriver driver;
-    composeExpression(driver, {"btnM3"});
-    bench.doubleClickEmptyPlace();
-    QCOMPARE(bench.expressionTexts(), QStringList({QStringLiteral("M0"), QStringLiteral("M3")}));
-    cancelDialog(driver);
-    bench.doubleClickEmptyPlace();
-    QCOMPARE(bench.expressionTexts().size(), 2);
-}
-
-void tst_TriggerOptionWidget::doubleClickOnARowEditsIt()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M0"), QStringLiteral("M1")});
-    bench.page();
-    support::DialogDriver driver;
-    composeExpression(driver, {"btnNOT", "btnM5"});
-    bench.doubleClickExpression(0);
-    QCOMPARE(bench.expressionTexts(), QStringList({QStringLiteral("!M5"), QStringLiteral("M1")}));
-    QCOMPARE(driver.shownCount(), 1);
-}
-
-void tst_TriggerOptionWidget::cancellingTheExpressionDialogKeepsTheText()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M0")});
-    QSignalSpy spy(&bench.page(), &RTLVAK::TriggerOptionWidget::modified);
-    support::DialogDriver driver;
-    cancelDialog(driver);
-    bench.doubleClickExpression(0);
-    QCOMPARE(bench.expressionTexts(), QStringList{QStringLiteral("M0")});
-    QCOMPARE(spy.count(), 0);
-}
-
-void tst_TriggerOptionWidget::expressionDialogStartsEmptyAlsoWhenEditing()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M0&M1")});
-    bench.page();
-    support::DialogDriver driver;
-    QString shown = QStringLiteral("nothing asked");
-    driver.answerDialogOf<RTLVAK::MuExpressionDialog>([&shown](RTLVAK::MuExpressionDialog &dialog) {
-        shown = dialog.expression();
-        dialog.reject();
-    });
-    bench.doubleClickExpression(0);
-    QCOMPARE(shown, QString());
-}
-
-void tst_TriggerOptionWidget::sixteenExpressionsAreTheMost()
-{
-    TriggerBench bench;
-    QStringList full;
-    for (int i = 0; i < 16; ++i)
-        full.append(QStringLiteral("M%1").arg(i));
-    bench.core.setExpression(full);
-    QSignalSpy spy(&bench.page(), &RTLVAK::TriggerOptionWidget::modified);
-    bench.page().resize(900, 700); // room below the sixteenth row
-    support::DialogDriver driver;
-    driver.chooseFromMenu(QStringLiteral("Add"));
-    driver.answerBox(QMessageBox::Ok);
-    bench.askForMenu();
-    driver.answerBox(QMessageBox::Ok);
-    bench.doubleClickEmptyPlace();
-    QCOMPARE(driver.boxes().size(), 2);
-    QCOMPARE(driver.boxes().at(0).title, QStringLiteral("Warning"));
-    QCOMPARE(driver.boxes().at(1).title, QStringLiteral("Error"));
-    for (const support::BoxRecord &box : driver.boxes()) {
-        QCOMPARE(box.text, QStringLiteral("Support 16 expressions at most."));
-        QCOMPARE(box.icon, QMessageBox::Warning);
-    }
-    QCOMPARE(bench.expressionTexts(), full);
-    QCOMPARE(spy.count(), 0);
-    composeExpression(driver, {"btnM0", "btnAND", "btnM1"});
-    bench.doubleClickExpression(15);
-    QCOMPARE(bench.expressionTexts().constLast(), QStringLiteral("M0&M1"));
-}
-
-static QStringList disabledUnits(TriggerBench &bench)
-{
-    QStringList disabled;
-    support::DialogDriver driver;
-    driver.answerDialog([&disabled](QDialog &dialog) {
-        for (int unit = 0; unit < 16; ++unit) {
-            const QString name = QStringLiteral("btnM%1").arg(unit);
-            if (!dialog.findChild<QPushButton *>(name)->isEnabled())
-                disabled.append(name);
-        }
-        dialog.reject();
-    });
-    bench.doubleClickEmptyPlace();
-    return disabled;
-}
-
-void tst_TriggerOptionWidget::dynamicModeDisablesButtonsOfHighUnits()
-{
-    TriggerBench bench;
-    QCOMPARE(disabledUnits(bench), QStringList());
-    bench.mode().setCurrentIndex(1);
-    QCOMPARE(disabledUnits(bench),
-             QStringList({QStringLiteral("btnM10"), QStringLiteral("btnM11"), QStringLiteral("btnM12"),
-                          QStringLiteral("btnM13"), QStringLiteral("btnM14"), QStringLiteral("btnM15")}));
-}
-
-void tst_TriggerOptionWidget::highUnitsAreGreyInDynamicModeOnly()
-{
-    TriggerBench bench;
-    bench.core.setExpression({QStringLiteral("M1"), QStringLiteral("M1&M10"), QStringLiteral("M11")});
-    bench.mode().setCurrentIndex(1);
-    QCOMPARE(bench.expressionColours().join(u' '), QStringLiteral("black grey grey"));
-    QCOMPARE(bench.expressions().item(0)->toolTip(), QString());
-    QCOMPARE(bench.expressions().item(1)->toolTip(), QStringLiteral("M10 to M15 are not available in Dynamic mode"));
-    bench.mode().setCurrentIndex(0);
-    QCOMPARE(bench.expressionColours().join(u' '), QStringLiteral("black black black"));
-    QCOMPARE(bench.expressions().item(1)->toolTip(), QString());
 }
 
 void tst_TriggerOptionWidget::usageTexts_data()
@@ -687,20 +294,6 @@ void tst_TriggerOptionWidget::otherEventsAreIgnored()
         bench.page().handleIEvent(std::make_unique<QUtil::IEvent>(QLatin1String(type)).get());
     QCOMPARE(bench.usage(), QStringLiteral("BSRAM Usage : 0/12"));
     QCOMPARE(bench.storage().count(), 3);
-}
-
-void tst_TriggerOptionWidget::refreshShowsWhatThePortsHaveNow()
-{
-    TriggerBench bench;
-    bench.core.getTrigger(0)->setSignalNet({single(QStringLiteral("clk")), single(QStringLiteral("rst"))});
-    bench.core.matchUnit(0)->setTriggerPort(bench.core.getTrigger(0));
-    bench.ports().topLevelItem(0)->setExpanded(true);
-    bench.core.getTrigger(0)->setSignalNet({single(QStringLiteral("spare"))});
-    bench.page().refreshTriggerPorts();
-    QCOMPARE(bench.ports().topLevelItemCount(), 16);
-    QCOMPARE(bench.ports().topLevelItem(0)->childCount(), 1);
-    QCOMPARE(bench.ports().topLevelItem(0)->child(0)->text(0), QStringLiteral("spare"));
-    QCOMPARE(bench.units().model()->index(0, 1).data().toString(), QStringLiteral("spare"));
 }
 
 void tst_TriggerOptionWidget::pageThatDiesUnderItsDialog()
