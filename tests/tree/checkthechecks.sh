@@ -85,4 +85,10 @@ expect FAIL checkicons "a picture without a drawing" image/a.png "$half"
 expect FAIL checkicons "a list that names what is not there" image/vakins.qrc "$icon_list"
 expect FAIL checkicons "a form that names no icon of ours" forms/a.ui '<x>:/vakins/image/b.png</x>'
 
+expect PASS checklinks "good links" README.md $'[a](docs/a.md) [b](https://example.org) [c](#some-heading)\n## Some heading\n' \
+    docs/a.md '![picture](a.png)' docs/a.png ''
+expect FAIL checklinks "a link to nothing" README.md '[a](docs/a.md)'
+expect FAIL checklinks "a picture that is missing" docs/a.md '![picture](a.png)'
+expect FAIL checklinks "a heading that is missing" README.md $'[c](#other-heading)\n## Some heading\n'
+
 exit "$failed"
