@@ -3,21 +3,17 @@
 
 #pragma once
 
-#include <QList>
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 
-namespace VAK {
-class AoCore;
-}
-
 namespace support {
 
-/// Decides what becomes of a call of VAK::writeVAKConfigToXml(): true lets the library write, false makes it fail.
-using WriteDecision = std::function<bool(const QList<VAK::AoCore *> &cores, const QString &path)>;
+/// Decides what becomes of a call of one of the two writers of configuration files: true lets the library write, false
+/// makes it fail. Each core is given as its number and its module's name: "0 soc".
+using WriteDecision = std::function<bool(const QStringList &cores, const QString &path)>;
 
-/// Puts `decision` before the library's writer, in the whole program; an empty one takes it away.
+/// Puts `decision` before the library's writers, in the whole program; an empty one takes it away.
 void interceptWrites(const WriteDecision &decision);
 
 } // namespace support

@@ -66,11 +66,11 @@ void TestStandardViewCores::addAppendsACoreAndShowsIt()
     fixture.contextMenu(-1);
     QCOMPARE(fixture.items(), QStringList({"Core 0", "Core 1", "Core 2"}));
     QCOMPARE(fixture.stack().count(), 3);
-    QCOMPARE(fixture.page(2).core()->index(), 2);
+    QCOMPARE(fixture.coreNumber(2), 2);
     QCOMPARE(fixture.stack().currentIndex(), 2);
     QCOMPARE(fixture.currentItem(), QString("Core 2"));
     QCOMPARE(fixture.pageTitle(), QString("Core 2"));
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::addedCoresPageHasTheNetlist()
@@ -83,7 +83,7 @@ void TestStandardViewCores::addedCoresPageHasTheNetlist()
     fixture.driver.answerDialog([](QDialog &dialog) { dialog.reject(); });
     clickButton(fixture.page(1), "btnSampleClock");
     QCOMPARE(fixture.driver.dialogs(), QStringList{"RTLVAK::VakSignalSelectDialog"});
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::addedCoresEditsReachTheView()
@@ -92,10 +92,10 @@ void TestStandardViewCores::addedCoresEditsReachTheView()
     QVERIFY(fixture.open(1));
     fixture.driver.chooseFromMenu("Add");
     fixture.contextMenu(-1);
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
     fixture.editClock(1, "clk2");
     QVERIFY(fixture.view().isModified());
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::addOnAnItemWorksToo()
@@ -105,7 +105,7 @@ void TestStandardViewCores::addOnAnItemWorksToo()
     fixture.driver.chooseFromMenu("Add");
     fixture.contextMenu(0);
     QCOMPARE(fixture.items(), QStringList({"Core 0", "Core 1", "Core 2"}));
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::theSeventeenthAddShowsTheLimitAndChangesNothing()
@@ -116,8 +116,8 @@ void TestStandardViewCores::theSeventeenthAddShowsTheLimitAndChangesNothing()
     fixture.contextMenu(-1);
     QCOMPARE(fixture.stack().count(), 16);
     QCOMPARE(fixture.pageTitle(), QString("Core 15"));
-    fixture.view().setModified(false);
-    fixture.view().changeAoWidget(3);
+    fixture.standardView().setModified(false);
+    fixture.standardView().changeAoWidget(3);
 
     QSignalSpy spy(&fixture.view(), &VakInserterView::modificationStatusChanged);
     fixture.driver.chooseFromMenu("Add");
@@ -146,7 +146,7 @@ void TestStandardViewCores::addMarksTheDocumentOnce()
     fixture.contextMenu(-1);
     QCOMPARE(spy.size(), 1);
     QCOMPARE(fixture.view().windowTitle(), QString("some.rvk *"));
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::menuOffersAddAndRemove()
@@ -173,14 +173,14 @@ void TestStandardViewCores::rightClickOnEmptySpaceOffersRemoveDisabledAndAddStil
     fixture.driver.dismissMenu();
     fixture.contextMenu(0);
     QCOMPARE(fixture.driver.menus().last().enabledTexts, QStringList({"Add", "Remove"}));
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::dismissedMenuChangesNothing()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open(3));
-    fixture.view().changeAoWidget(2);
+    fixture.standardView().changeAoWidget(2);
     fixture.driver.dismissMenu();
     fixture.contextMenu(1);
     QCOMPARE(fixture.items().size(), 3);
@@ -217,7 +217,7 @@ void TestStandardViewCores::refusedRemovalShowsTheFirstCore()
     QFETCH(bool, escape);
     ViewFixture fixture;
     QVERIFY(fixture.open(3));
-    fixture.view().changeAoWidget(2);
+    fixture.standardView().changeAoWidget(2);
     fixture.driver.chooseFromMenu("Remove");
     if (escape)
         fixture.driver.escapeBox();
@@ -235,46 +235,46 @@ void TestStandardViewCores::removingTheMiddleCoreRenumbers()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open(3));
-    QPointer<AoOptionWidget> last = &fixture.page(2);
+    QPointer<QWidget> last = &fixture.page(2);
     fixture.driver.chooseFromMenu("Remove");
     fixture.driver.answerBox(QMessageBox::Ok);
     fixture.contextMenu(1);
     QCOMPARE(fixture.items(), QStringList({"Core 0", "Core 1"}));
     QCOMPARE(fixture.stack().count(), 2);
-    QCOMPARE(fixture.page(0).core()->index(), 0);
-    QCOMPARE(fixture.page(1).core()->index(), 1);
+    QCOMPARE(fixture.coreNumber(0), 0);
+    QCOMPARE(fixture.coreNumber(1), 1);
     QCOMPARE(&fixture.page(1), last.data());
     QVERIFY(fixture.view().isModified());
-    fixture.view().changeAoWidget(1);
+    fixture.standardView().changeAoWidget(1);
     QCOMPARE(fixture.stack().currentWidget(), last.data());
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::removingTheShownCoreShowsTheFirst()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open(3));
-    fixture.view().changeAoWidget(2);
+    fixture.standardView().changeAoWidget(2);
     fixture.driver.chooseFromMenu("Remove");
     fixture.driver.answerBox(QMessageBox::Ok);
     fixture.contextMenu(2);
     QCOMPARE(fixture.stack().currentIndex(), 0);
     QCOMPARE(fixture.currentItem(), QString("Core 0"));
     QCOMPARE(fixture.pageTitle(), QString("Core 0"));
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::removalDeletesThePage()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open(2));
-    const QPointer<AoOptionWidget> page = &fixture.page(0);
+    const QPointer<QWidget> page = &fixture.page(0);
     fixture.driver.chooseFromMenu("Remove");
     fixture.driver.answerBox(QMessageBox::Ok);
     fixture.contextMenu(0);
     QVERIFY(!page);
     QCOMPARE(fixture.items(), QStringList{"Core 0"});
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::withOneCoreRemoveRefusesBeforeAsking()
@@ -317,9 +317,9 @@ void TestStandardViewCores::addAfterRemovalTakesTheNextNumber()
     fixture.driver.chooseFromMenu("Add");
     fixture.contextMenu(-1);
     QCOMPARE(fixture.items(), QStringList({"Core 0", "Core 1", "Core 2"}));
-    QCOMPARE(fixture.page(2).core()->index(), 2);
+    QCOMPARE(fixture.coreNumber(2), 2);
     QCOMPARE(fixture.clockShown(2), QString());
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
 }
 
 void TestStandardViewCores::clickShowsTheCore()
@@ -339,7 +339,7 @@ void TestStandardViewCores::doubleClickDoesNothingOfItsOwn()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open(3));
-    fixture.view().on_treeWidget_doubleClicked(fixture.tree().model()->index(2, 0));
+    fixture.standardView().on_treeWidget_doubleClicked(fixture.tree().model()->index(2, 0));
     QCOMPARE(fixture.stack().currentIndex(), 0);
 }
 
@@ -349,13 +349,13 @@ void TestStandardViewCores::clickIsIgnoredWhenNoItemLiesAtRowAndColumn()
     QVERIFY(fixture.open(3));
     const QModelIndex second = fixture.tree().model()->index(1, 0);
     fixture.tree().topLevelItem(0)->setHidden(true);
-    fixture.view().on_treeWidget_clicked(second);
+    fixture.standardView().on_treeWidget_clicked(second);
     QCOMPARE(fixture.stack().currentIndex(), 1); // another item has moved up into the corner
 
-    fixture.view().changeAoWidget(0);
+    fixture.standardView().changeAoWidget(0);
     for (int row = 0; row < 3; ++row)
         fixture.tree().topLevelItem(row)->setHidden(true);
-    fixture.view().on_treeWidget_clicked(second);
+    fixture.standardView().on_treeWidget_clicked(second);
     QCOMPARE(fixture.stack().currentIndex(), 0);
 }
 
@@ -379,9 +379,9 @@ void TestStandardViewCores::unknownNumberShowsNothingNew()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open(2));
-    fixture.view().changeAoWidget(1);
+    fixture.standardView().changeAoWidget(1);
     for (const int number : {-1, 2, 16}) {
-        fixture.view().changeAoWidget(number);
+        fixture.standardView().changeAoWidget(number);
         QCOMPARE(fixture.stack().currentIndex(), 1);
         QCOMPARE(fixture.currentItem(), QString("Core 1"));
         QCOMPARE(fixture.pageTitle(), QString("Core 1"));
@@ -394,11 +394,11 @@ void TestStandardViewCores::addAoOptionWidgetAnswersTheNumberOfPages()
     QVERIFY(fixture.open(2));
     const auto core = completeCore(5);
     auto *page = new AoOptionWidget(core.get(), nullptr, &fixture.view());
-    QCOMPARE(fixture.view().addAoOptionWidget(page), 3);
+    QCOMPARE(fixture.standardView().addAoOptionWidget(page), 3);
     QCOMPARE(fixture.items(), QStringList({"Core 0", "Core 1", "Core 5"}));
     emit page->modifed();
     QVERIFY(fixture.view().isModified());
-    fixture.view().setModified(false);
+    fixture.standardView().setModified(false);
     delete page;
 }
 
@@ -406,8 +406,8 @@ void TestStandardViewCores::removeAoOptionWidgetLeavesThePageAlive()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open(3));
-    const QPointer<AoOptionWidget> page = &fixture.page(1);
-    fixture.view().removeAoOptionWidget(page);
+    const QPointer<AoOptionWidget> page = &fixture.standardPage(1);
+    fixture.standardView().removeAoOptionWidget(page);
     QVERIFY(page);
     QCOMPARE(fixture.stack().count(), 2);
     QCOMPARE(fixture.stack().indexOf(page), -1);
@@ -424,7 +424,7 @@ void TestStandardViewCores::viewMayDieInTheMenu()
     ViewFixture fixture;
     QVERIFY(fixture.open(2));
     fixture.driver.actOnMenu([&fixture](QMenu &) { fixture.kill(); });
-    fixture.view().on_treeWidget_customContextMenuRequested(QPoint(5, 5));
+    fixture.standardView().on_treeWidget_customContextMenuRequested(QPoint(5, 5));
     QVERIFY(!fixture.viewLives());
 }
 
@@ -434,7 +434,7 @@ void TestStandardViewCores::viewMayDieInTheConfirmation()
     QVERIFY(fixture.open(2));
     fixture.driver.chooseFromMenu("Remove");
     fixture.driver.actOnBox([&fixture](QMessageBox &) { fixture.kill(); });
-    fixture.view().on_treeWidget_customContextMenuRequested(QPoint(5, 5));
+    fixture.standardView().on_treeWidget_customContextMenuRequested(QPoint(5, 5));
     QVERIFY(!fixture.viewLives());
 }
 
@@ -444,7 +444,7 @@ void TestStandardViewCores::viewMayDieInTheLimitBox()
     QVERIFY(fixture.open(16));
     fixture.driver.chooseFromMenu("Add");
     fixture.driver.actOnBox([&fixture](QMessageBox &) { fixture.kill(); });
-    fixture.view().on_treeWidget_customContextMenuRequested(QPoint(5, 5));
+    fixture.standardView().on_treeWidget_customContextMenuRequested(QPoint(5, 5));
     QVERIFY(!fixture.viewLives());
 }
 

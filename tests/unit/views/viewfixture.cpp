@@ -3,9 +3,13 @@
 
 #include "viewfixture.h"
 
+#include "capture/liteaooptionwidget.h"
+#include "views/vakliteinserterview.h"
+
 #include <VakUtils/matchunit.h>
 #include <VakUtils/triggerport.h>
 
+#include <QComboBox>
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,19 +20,51 @@ namespace support {
 
 using namespace RTLVAK;
 
-std::unique_ptr<VAK::AoCore> completeCore(int index)
+static bool modesAdded = false;
+
+void addModes()
+{
+    QTest::addColumn<Mode>("mode");
+    QTest::newRow("Standard") << Mode::Standard;
+    QTest::newRow("Lite") << Mode::Lite;
+    modesAdded = true;
+}
+
+Mode currentMode()
+{
+    if (!modesAdded)
+        return Mode::Standard;
+    QFETCH_GLOBAL(Mode, mode);
+    return mode;
+}
+
+static VAK::SignalItem signalNamed(const QString &name)
 {
     VAK::SignalItem signal;
-    signal.name = "valid";
+    signal.name = name;
+    return signal;
+}
+
+std::unique_ptr<VAK::AoCore> completeCore(int index)
+{
     auto core = std::make_unique<VAK::AoCore>(index);
-    core->getTrigger(0)->setSignalNet({signal});
+    core->getTrigger(0)->setSignalNet({signalNamed("valid")});
     core->matchUnit(0)->setTriggerPort(core->getTrigger(0));
     core->matchUnit(0)->setValue0("1");
     core->matchUnit(0)->setEnabled(true);
     core->setExpression({"M0"});
     core->setSampleClock("clk");
-    core->setallCapSignal({signal});
-    core->setDataSignal({signal});
+    core->setallCapSignal({signalNamed("valid")});
+    core->setDataSignal({signalNamed("valid")});
+    return core;
+}
+
+std::unique_ptr<VAK::AOCore_Lite> completeLiteCore(int index)
+{
+    auto core = std::make_unique<VAK::AOCore_Lite>(index);
+    core->setSampleClock("clk");
+    core->setallCapSignal({signalNamed("valid")});
+    core->setDataSignals({signalNamed("valid")});
     return core;
 }
 
@@ -39,41 +75,110 @@ fakes::Instance design()
     return top;
 }
 
-static void writeCores(const QList<VAK::AoCore *> &cores, const QString &path)
-{
-    if (!VAK::writeVAKConfigToXml(cores, path))
-        qFatal("cannot write %s", qPrintable(path));
-}
+namespace {
 
-QString writeStandardFile(const TempDir &dir, const QString &name, int count)
+/// The cores of a file of either mode, owned; what the functions below need of both.
+struct CoresOfFile
 {
-    QList<VAK::AoCore *> cores;
-    for (int i = 0; i < count; ++i)
-        cores += completeCore(i).release();
-    writeCores(cores, dir.filePath(name));
-    qDeleteAll(cores);
+    explicit CoresOfFile(const QString &path)
+    {
+        if (VAK::vakModeFromVakConfigFile(path) == VAK::VakMode::Lite)
+            lite = VAK::readVAKConfigFromXml_Lite(path);
+        else
+            standard = VAK::readVAKConfigFromXml(path);
+    }
+    CoresOfFile(Mode mode, int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            if (mode == Mode::Lite)
+                lite += completeLiteCore(i).release();
+            else
+                standard += completeCore(i).release();
+        }
+    }
+    ~CoresOfFile()
+    {
+        qDeleteAll(standard);
+        qDeleteAll(lite);
+    }
+    CoresOfFile(const CoresOfFile &) = delete;
+    CoresOfFile &operator=(const CoresOfFile &) = delete;
+
+    void write(Mode mode, const QString &path) const
+    {
+        const bool written =
+            mode == Mode::Lite ? VAK::writeVAKConfigToXml_Lite(lite, path) : VAK::writeVAKConfigToXml(standard, path);
+        if (!written)
+            qFatal("cannot write %s", qPrintable(path));
+    }
+    void write(const QString &path) const { write(lite.isEmpty() ? Mode::Standard : Mode::Lite, path); }
+
+    QList<VAK::AoCore *> standard;
+    QList<VAK::AOCore_Lite *> lite;
+};
+
+} // namespace
+
+QString writeFile(Mode mode, const TempDir &dir, const QString &name, int count)
+{
+    CoresOfFile(mode, count).write(mode, dir.filePath(name));
     return dir.filePath(name);
 }
 
 void changeClockOnDisk(const QString &path, const QString &clock)
 {
-    const QList<VAK::AoCore *> cores = VAK::readVAKConfigFromXml(path);
-    cores.first()->setSampleClock(clock);
-    writeCores(cores, path);
-    qDeleteAll(cores);
+    const CoresOfFile cores(path);
+    if (cores.lite.isEmpty())
+        cores.standard.first()->setSampleClock(clock);
+    else
+        cores.lite.first()->setSampleClock(clock);
+    cores.write(path);
+}
+
+void addSignalOnDisk(const QString &path, const QString &name)
+{
+    const CoresOfFile cores(path);
+    if (cores.lite.isEmpty())
+        cores.standard.first()->setallCapSignal(cores.standard.first()->getallCapSignal() << signalNamed(name));
+    else
+        cores.lite.first()->setallCapSignal(cores.lite.first()->getallCapSignal() << signalNamed(name));
+    cores.write(path);
 }
 
 QStringList clocksInFile(const QString &path)
 {
     QStringList clocks;
-    const QList<VAK::AoCore *> cores = VAK::readVAKConfigFromXml(path);
-    for (const VAK::AoCore *core : cores)
+    const CoresOfFile cores(path);
+    for (const VAK::AoCore *core : cores.standard)
         clocks += core->sampleClock();
-    qDeleteAll(cores);
+    for (const VAK::AOCore_Lite *core : cores.lite)
+        clocks += core->sampleClock();
     return clocks;
 }
 
-ViewFixture::ViewFixture()
+std::unique_ptr<VakInserterView> makeView(Mode mode, QWidget *parent)
+{
+    if (mode == Mode::Lite)
+        return std::make_unique<VakLiteInserterView>(parent);
+    return std::make_unique<VakStandardInserterView>(parent);
+}
+
+bool call(VakInserterView &view, const QByteArray &slot)
+{
+    const bool renamed = slot == "onFileChange" && qobject_cast<VakLiteInserterView *>(&view);
+    const QByteArray own = renamed ? QByteArray("onFileChanged") : slot;
+    bool result = true;
+    const bool called =
+        own == "readRtlNetlist"
+            ? QMetaObject::invokeMethod(&view, own.constData(), Qt::DirectConnection, Q_RETURN_ARG(bool, result))
+            : QMetaObject::invokeMethod(&view, own.constData(), Qt::DirectConnection);
+    if (!called)
+        qFatal("the view has no slot %s", own.constData());
+    return result;
+}
+
+ViewFixture::ViewFixture(Mode modeOfView)
+    : mode(modeOfView)
 {
     fakes::resetDesign();
     fakes::resetEvents();
@@ -81,7 +186,7 @@ ViewFixture::ViewFixture()
     fakes::addSource("/design/soc.v");
     fakes::setDesign(design());
     containerPointer = new QWidget;
-    viewPointer = new VakStandardInserterView;
+    viewPointer = makeView(mode).release();
     auto *layout = new QVBoxLayout(containerPointer);
     layout->addWidget(viewPointer);
     containerPointer->show();
@@ -94,7 +199,7 @@ ViewFixture::~ViewFixture()
 
 bool ViewFixture::open(int count, const QString &name)
 {
-    path = writeStandardFile(dir, name, count);
+    path = write(name, count);
     QString error;
     if (view().open(path, {}, &error))
         return true;
@@ -108,23 +213,81 @@ void ViewFixture::kill()
     runDeferredDeletes();
 }
 
-AoOptionWidget &ViewFixture::page(int position) const
+VakStandardInserterView &ViewFixture::standardView() const
 {
-    auto *found = qobject_cast<AoOptionWidget *>(stack().widget(position));
+    return *qobject_cast<VakStandardInserterView *>(viewPointer.data());
+}
+
+void ViewFixture::setModified(bool on) const
+{
+    if (auto *lite = qobject_cast<VakLiteInserterView *>(viewPointer.data()))
+        lite->setModified(on);
+    else
+        standardView().setModified(on);
+}
+
+QStringList ViewFixture::items() const
+{
+    return mode == Mode::Lite ? modelTexts(*child<QComboBox>(view(), "comboBoxAo").model()) : topTexts(tree());
+}
+
+QStringList ViewFixture::titles(int count) const
+{
+    QStringList texts;
+    for (int i = 0; i < count; ++i)
+        texts += QString(mode == Mode::Lite ? "AO %1" : "Core %1").arg(i);
+    return texts;
+}
+
+QString ViewFixture::currentItem() const
+{
+    if (mode == Mode::Lite)
+        return child<QComboBox>(view(), "comboBoxAo").currentText();
+    const QTreeWidgetItem *item = tree().currentItem();
+    return item ? item->text(0) : QString();
+}
+
+void ViewFixture::showCore(int number) const
+{
+    if (mode == Mode::Lite)
+        child<QComboBox>(view(), "comboBoxAo").setCurrentIndex(number);
+    else
+        standardView().changeAoWidget(number);
+}
+
+void ViewFixture::addCore()
+{
+    if (mode == Mode::Lite) {
+        clickButton(view(), "btnAdd");
+        return;
+    }
+    driver.chooseFromMenu("Add");
+    contextMenu(-1);
+}
+
+QWidget &ViewFixture::page(int position) const
+{
+    QWidget *found = stack().widget(position);
     if (!found)
         qFatal("no page at position %d", position);
     return *found;
 }
 
-QString ViewFixture::pageTitle() const
+AoOptionWidget &ViewFixture::standardPage(int position) const
 {
-    return child<QDockWidget>(view(), "dockWidget_2").windowTitle();
+    return *qobject_cast<AoOptionWidget *>(&page(position));
 }
 
-QString ViewFixture::currentItem() const
+int ViewFixture::coreNumber(int position) const
 {
-    const QTreeWidgetItem *item = tree().currentItem();
-    return item ? item->text(0) : QString();
+    const auto *lite = qobject_cast<LiteAoOptionWidget *>(&page(position));
+    return lite ? lite->core()->index() : standardPage(position).core()->index();
+}
+
+QString ViewFixture::coreClock(int position) const
+{
+    const auto *lite = qobject_cast<LiteAoOptionWidget *>(&page(position));
+    return lite ? lite->core()->sampleClock() : standardPage(position).core()->sampleClock();
 }
 
 QString ViewFixture::clockShown(int position) const
@@ -135,6 +298,16 @@ QString ViewFixture::clockShown(int position) const
 void ViewFixture::editClock(int position, const QString &clock) const
 {
     child<QLineEdit>(page(position), "editSampleClock").setText(clock);
+}
+
+QTreeWidget &ViewFixture::captured(int position) const
+{
+    return child<QTreeWidget>(page(position), mode == Mode::Lite ? "treeWidgetSignal" : "treeWidgetCapSigs");
+}
+
+QString ViewFixture::pageTitle() const
+{
+    return child<QDockWidget>(view(), "dockWidget_2").windowTitle();
 }
 
 QList<ReloadBanner *> ViewFixture::banners() const

@@ -11,12 +11,13 @@
 using namespace RTLVAK;
 using namespace support;
 
-/// Closing the Standard view.
-class TestStandardViewClose : public QObject
+/// Closing a view.
+class TestViewClose : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase_data() { addModes(); }
     void initTestCase();
     void cleanup() { interceptWrites({}); }
 
@@ -33,12 +34,12 @@ private slots:
     void viewMayDieInTheValidationBox();
 };
 
-void TestStandardViewClose::initTestCase()
+void TestViewClose::initTestCase()
 {
     QCOMPARE(missingDoubles(), QString());
 }
 
-void TestStandardViewClose::anUnmodifiedViewClosesWithoutAQuestion()
+void TestViewClose::anUnmodifiedViewClosesWithoutAQuestion()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open());
@@ -47,7 +48,7 @@ void TestStandardViewClose::anUnmodifiedViewClosesWithoutAQuestion()
     QCOMPARE(fixture.driver.shownCount(), 0);
 }
 
-void TestStandardViewClose::theQuestionNamesTheFile()
+void TestViewClose::theQuestionNamesTheFile()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open(1, "a<b>%1.rvk"));
@@ -63,10 +64,10 @@ void TestStandardViewClose::theQuestionNamesTheFile()
     QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok | QMessageBox::Discard | QMessageBox::Cancel));
     QCOMPARE(box.defaultButton, QMessageBox::Ok);
     QCOMPARE(box.parent, &fixture.view());
-    fixture.view().setModified(false);
+    fixture.setModified(false);
 }
 
-void TestStandardViewClose::okSavesAndCloses()
+void TestViewClose::okSavesAndCloses()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open());
@@ -78,7 +79,7 @@ void TestStandardViewClose::okSavesAndCloses()
     QCOMPARE(clocksInFile(fixture.path), QStringList{"clk2"});
 }
 
-void TestStandardViewClose::okStaysOpenWhenSavingFails_data()
+void TestViewClose::okStaysOpenWhenSavingFails_data()
 {
     QTest::addColumn<QString>("clock");
     QTest::addColumn<bool>("writes");
@@ -86,24 +87,24 @@ void TestStandardViewClose::okStaysOpenWhenSavingFails_data()
     QTest::newRow("write fails") << "clk2" << false;
 }
 
-void TestStandardViewClose::okStaysOpenWhenSavingFails()
+void TestViewClose::okStaysOpenWhenSavingFails()
 {
     QFETCH(QString, clock);
     QFETCH(bool, writes);
     ViewFixture fixture;
     QVERIFY(fixture.open());
     fixture.editClock(0, clock);
-    interceptWrites([writes](const QList<VAK::AoCore *> &, const QString &) { return writes; });
+    interceptWrites([writes](const QStringList &, const QString &) { return writes; });
     fixture.driver.answerBox(QMessageBox::Ok);
     fixture.driver.answerBox(QMessageBox::Ok);
     QVERIFY(!fixture.view().close());
     QVERIFY(fixture.view().isVisible());
     QVERIFY(fixture.view().isModified());
     QCOMPARE(clocksInFile(fixture.path), QStringList{"clk"});
-    fixture.view().setModified(false);
+    fixture.setModified(false);
 }
 
-void TestStandardViewClose::discardClosesWithoutSaving()
+void TestViewClose::discardClosesWithoutSaving()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open());
@@ -116,14 +117,14 @@ void TestStandardViewClose::discardClosesWithoutSaving()
     QCOMPARE(spy.size(), 0);
 }
 
-void TestStandardViewClose::cancelAndEscapeKeepTheViewOpen_data()
+void TestViewClose::cancelAndEscapeKeepTheViewOpen_data()
 {
     QTest::addColumn<bool>("escape");
     QTest::newRow("cancel") << false;
     QTest::newRow("escape") << true;
 }
 
-void TestStandardViewClose::cancelAndEscapeKeepTheViewOpen()
+void TestViewClose::cancelAndEscapeKeepTheViewOpen()
 {
     QFETCH(bool, escape);
     ViewFixture fixture;
@@ -137,10 +138,10 @@ void TestStandardViewClose::cancelAndEscapeKeepTheViewOpen()
     QVERIFY(fixture.view().isVisible());
     QVERIFY(fixture.view().isModified());
     QCOMPARE(clocksInFile(fixture.path), QStringList{"clk"});
-    fixture.view().setModified(false);
+    fixture.setModified(false);
 }
 
-void TestStandardViewClose::savingThroughTheClosePromptSucceedsEvenWithSynplify()
+void TestViewClose::savingThroughTheClosePromptSucceedsEvenWithSynplify()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open());
@@ -151,7 +152,7 @@ void TestStandardViewClose::savingThroughTheClosePromptSucceedsEvenWithSynplify(
     QCOMPARE(clocksInFile(fixture.path), QStringList{"clk2"});
 }
 
-void TestStandardViewClose::viewMayDieInTheQuestion()
+void TestViewClose::viewMayDieInTheQuestion()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open());
@@ -162,7 +163,7 @@ void TestStandardViewClose::viewMayDieInTheQuestion()
     QCOMPARE(clocksInFile(fixture.path), QStringList{"clk"});
 }
 
-void TestStandardViewClose::viewMayDieInTheValidationBox()
+void TestViewClose::viewMayDieInTheValidationBox()
 {
     ViewFixture fixture;
     QVERIFY(fixture.open());
@@ -173,5 +174,5 @@ void TestStandardViewClose::viewMayDieInTheValidationBox()
     QVERIFY(!fixture.viewLives());
 }
 
-QTEST_MAIN(TestStandardViewClose)
-#include "tst_vakstandardinserterview_close.moc"
+QTEST_MAIN(TestViewClose)
+#include "tst_inserterview_close.moc"
