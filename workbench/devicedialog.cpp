@@ -82,7 +82,6 @@ DeviceDialog::DeviceDialog(const TE::DeviceInfo &current, QWidget *parent)
     setWindowTitle(tr("Device"));
     m_filter->setObjectName("deviceFilter");
     m_filter->setPlaceholderText(tr("Search name or family"));
-    m_filter->setClearButtonEnabled(true);
     m_tree->setObjectName("deviceTree");
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);

@@ -34,7 +34,6 @@ FindBar::FindBar(QPlainTextEdit *editor)
     close->setToolTip(tr("Close (Escape)"));
     m_pattern->setObjectName("findPattern");
     m_pattern->setPlaceholderText(tr("Find"));
-    m_pattern->setClearButtonEnabled(true);
     m_result->setObjectName("findResult");
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(6, 3, 6, 3);
