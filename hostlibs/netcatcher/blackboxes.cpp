@@ -15,7 +15,7 @@ namespace NETCATCHER {
 /// No primitive has more; guards against nonsense in an engine's message.
 constexpr int maxPositional = 4096;
 
-static bool isPlainName(const QByteArray &name)
+bool isPlainName(const QByteArray &name)
 {
     return !name.isEmpty() && !std::isdigit(static_cast<unsigned char>(name[0])) && name[0] != '$' &&
            name.size() < 200 && std::all_of(name.begin(), name.end(), [](char c) {
@@ -64,6 +64,15 @@ static int positionIn(const QString &name, const char *prefix)
     return qBound(0, name.mid(int(qstrlen(prefix))).toInt(), maxPositional);
 }
 
+bool BlackBoxes::learnModule(const QByteArray &name)
+{
+    const bool isNew = !m_usages.contains(name) || (!isPlainName(name) && !m_escaped.contains(name));
+    m_usages[name]; // what the scan saw of it, or nothing
+    if (!isPlainName(name))
+        m_escaped.insert(name);
+    return isNew;
+}
+
 bool BlackBoxes::learnPin(const QString &name)
 {
     const int position = positionIn(name, "__pinNumber");
@@ -100,7 +109,8 @@ bool BlackBoxes::learnWidth(const QString &pin, int width)
 
 bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
 {
-    static const QRegularExpression missing(QStringLiteral("^Cannot find file containing module: '(.*)'$"));
+    static const QRegularExpression missing(
+        QStringLiteral("^(?:Cannot find file containing module|Can't resolve module reference): '(.*)'$"));
     static const QRegularExpression pin(QStringLiteral("^Pin not found: '(.*)'$"));
     static const QRegularExpression parameter(QStringLiteral("^Parameter pin not found: '(.*)'$"));
     static const QRegularExpression width(
@@ -109,10 +119,8 @@ bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
     bool learned = false;
     for (const EngineMessage &message : messages) {
         QRegularExpressionMatch match = missing.match(message.text);
-        if (match.hasMatch() && !m_usages.contains(match.captured(1).toUtf8())) {
-            m_usages.insert(match.captured(1).toUtf8(), ModuleUsage());
-            learned = true;
-        }
+        if (match.hasMatch())
+            learned = learnModule(match.captured(1).toUtf8()) || learned;
         match = pin.match(message.text);
         if (match.hasMatch())
             learned = learnPin(match.captured(1)) || learned;
@@ -159,20 +167,31 @@ QByteArray BlackBoxes::standIn(const QByteArray &module, const ModuleUsage &usag
            pins + ");\nendmodule\n";
 }
 
+static bool writeFile(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
+
+QStringList BlackBoxes::files() const
+{
+    return m_escaped.isEmpty() ? QStringList() : QStringList(folderName() + QStringLiteral("/escaped.v"));
+}
+
 bool BlackBoxes::write(const QString &folder) const
 {
     const QDir place(folder + QLatin1Char('/') + folderName());
     if (!QDir().mkpath(place.path()))
         return false;
     for (auto it = m_usages.cbegin(); it != m_usages.cend(); ++it) {
-        if (!isPlainName(it.key()))
-            continue;
-        QFile file(place.filePath(QString::fromUtf8(it.key()) + QLatin1Char('.') + suffix()));
-        const QByteArray text = standIn(it.key(), *it);
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        const QString name = QString::fromUtf8(it.key()) + QLatin1Char('.') + suffix();
+        if (isPlainName(it.key()) && !writeFile(place.filePath(name), standIn(it.key(), *it)))
             return false;
     }
-    return true;
+    QByteArray escaped;
+    for (const QByteArray &name : m_escaped)
+        escaped += standIn(name, m_usages.value(name));
+    return writeFile(place.filePath(QStringLiteral("escaped.v")), escaped);
 }
 
 } // namespace NETCATCHER

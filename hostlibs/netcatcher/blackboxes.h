@@ -11,6 +11,9 @@
 
 namespace NETCATCHER {
 
+/// Whether a name needs no escape in Verilog and can be part of a file's name.
+bool isPlainName(const QByteArray &name);
+
 /// Stand-ins for modules without source, which are normal in FPGA designs: vendor primitives, memories, clock
 /// generators. The engine needs a declaration with every pin and parameter that an instance uses; all pins are inputs,
 /// which any expression may be connected to.
@@ -30,8 +33,11 @@ public:
     bool learn(const QVector<EngineMessage> &messages);
     /// Writes the stand-ins below `folder`; false when that fails.
     bool write(const QString &folder) const;
+    /// Plain names of stand-ins that the engine has to be given, because it looks for no file under such a name.
+    QStringList files() const;
 
 private:
+    bool learnModule(const QByteArray &name);
     bool learnPin(const QString &name);
     bool learnParameter(const QString &name);
     bool learnWidth(const QString &pin, int width);
@@ -40,6 +46,7 @@ private:
     QMap<QByteArray, ModuleUsage> m_usages;
     ModuleUsage m_common; ///< pins and parameters that the engine missed somewhere: every stand-in gets them
     QMap<QByteArray, int> m_widths;
+    QSet<QByteArray> m_escaped; ///< modules whose names are no plain identifiers
 };
 
 } // namespace NETCATCHER

@@ -88,25 +88,32 @@ void NetlistBuilder::listModules(const QStringList &declared)
             m_modules.append(QString::fromUtf8(module.name));
     }
     m_modules.removeDuplicates();
-    for (const QByteArray &root : qAsConst(m_design.roots)) {
-        const auto found = std::find_if(m_design.modules.begin(), m_design.modules.end(),
-                                        [&root](const RawModule &module) { return module.key == root; });
-        if (found != m_design.modules.end() && !found->isInterface && !isBlackBox(*found))
-            m_tops.append(QString::fromUtf8(found->name));
+    for (const RawModule &module : m_design.modules) {
+        if (canBeTop(module))
+            m_tops.append(QString::fromUtf8(module.name));
     }
+    m_tops.removeDuplicates();
     sortAs(declared, &m_modules);
     sortAs(declared, &m_tops);
-    if (!m_sources.top.isEmpty() && !m_tops.contains(m_sources.top))
-        m_tops.clear();
     if (!m_sources.top.isEmpty() && m_tops.isEmpty())
         m_modules.clear();
 }
 
+/// With a top set, the module of that name, also when something instantiates it; else every root.
+bool NetlistBuilder::canBeTop(const RawModule &module) const
+{
+    if (module.isInterface || isBlackBox(module))
+        return false;
+    const bool isRoot = m_design.roots.contains(module.key);
+    if (m_sources.top.isEmpty())
+        return isRoot;
+    return QString::fromUtf8(module.name) == m_sources.top && (isRoot || module.key == module.name);
+}
+
 QByteArray NetlistBuilder::topKey() const
 {
-    const auto found = std::find_if(m_design.modules.begin(), m_design.modules.end(), [this](const RawModule &module) {
-        return QString::fromUtf8(module.name) == m_tops.constFirst() && m_design.roots.contains(module.key);
-    });
+    const auto found = std::find_if(m_design.modules.begin(), m_design.modules.end(),
+                                    [this](const RawModule &module) { return canBeTop(module); });
     return found == m_design.modules.end() ? QByteArray() : found->key;
 }
 

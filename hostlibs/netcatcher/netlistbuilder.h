@@ -43,6 +43,7 @@ public:
 private:
     bool readResult(const QString &xmlPath, const ProgressFunction &progress);
     void listModules(const QStringList &declared);
+    bool canBeTop(const RawModule &module) const;
     QByteArray topKey() const;
 
     const DesignSources m_sources;

@@ -128,7 +128,8 @@ QStringList VerilatorEngine::arguments() const
         QLatin1String(resultPrefix),     QStringLiteral("--Mdir"),
         QLatin1String(resultFolder),     QStringLiteral("--relative-includes"),
     };
-    if (!m_sources.top.isEmpty())
+    // The engine loses every module when the top has an escaped name; it is looked for in the whole design then.
+    if (isPlainName(m_sources.top.toUtf8()))
         result << QStringLiteral("--top-module") << m_sources.top;
     const QString language = engineLanguage(m_sources.standard);
     if (!language.isEmpty())
@@ -143,7 +144,7 @@ QStringList VerilatorEngine::arguments() const
         result << QStringLiteral("-D") + define;
     for (int file : m_order)
         result << m_files[file];
-    return result;
+    return result + m_blackBoxes.files();
 }
 
 bool VerilatorEngine::learnIncludes(const QVector<EngineMessage> &messages)

@@ -8,6 +8,7 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <limits>
 
 namespace NETCATCHER {
@@ -182,7 +183,7 @@ void Reader::enter(Frame &frame)
         break;
     case Tag::Cell:
         if (!stack.empty() && stack.back().tag == Tag::Cells)
-            design.roots.append(text("submodname"));
+            design.roots.append(decodedVerilatorName(text("submodname")));
         break;
     case Tag::Module:
     case Tag::Interface:
@@ -249,8 +250,8 @@ void Reader::openModule(Tag tag)
         return;
     }
     RawModule module;
-    module.key = text("name");
-    module.name = text("origName");
+    module.key = decodedVerilatorName(text("name"));
+    module.name = decodedVerilatorName(text("origName"));
     module.isInterface = tag == Tag::Interface;
     const QList<QByteArray> place = text("loc").split(',');
     module.file = files.value(place.value(0));
@@ -304,7 +305,7 @@ void Reader::openInstance()
         return;
     RawInstance instance;
     instance.name = scopeName + text("name");
-    instance.module = text("defName");
+    instance.module = decodedVerilatorName(text("defName"));
     design.modules.back().instances.push_back(std::move(instance));
 }
 
@@ -429,6 +430,29 @@ void Reader::addType(const Frame &frame)
 }
 
 } // namespace
+
+QByteArray decodedVerilatorName(const QByteArray &name)
+{
+    static const QList<std::pair<QByteArray, QByteArray>> words{{"__DOT__", "."}, {"__BRA__", "["}, {"__KET__", "]"}};
+    QByteArray result;
+    for (int i = 0; i < name.size();) {
+        bool isCode = false;
+        const char code = char(name.mid(i + 3, 2).toInt(&isCode, 16));
+        const QByteArray rest = QByteArray::fromRawData(name.constData() + i, name.size() - i);
+        const auto word =
+            std::find_if(words.begin(), words.end(), [&rest](const auto &each) { return rest.startsWith(each.first); });
+        if (word != words.end()) {
+            result += word->second;
+            i += word->first.size();
+        } else if (isCode && rest.startsWith("__0") && rest.size() >= 5) {
+            result += code;
+            i += 5;
+        } else {
+            result += name[i++];
+        }
+    }
+    return result;
+}
 
 bool parseVerilatorConstant(const QString &text, int *value)
 {

@@ -24,6 +24,7 @@ private slots:
     void topNeedNotBeARoot();
     void misspeltTopEmptiesTheModules();
     void topIsComparedExactly();
+    void escapedModuleNames();
     void blackBoxIsNoTop();
     void interfaceIsNoModule();
     void modulesOutsideOfTheTopAreFoundToo();
@@ -149,6 +150,20 @@ void TestNetlistMessages::topIsComparedExactly()
 {
     QCOMPARE(build(twoRoots, "B").modules, QStringList());
     QCOMPARE(build(twoRoots, " b").modules, QStringList());
+}
+
+void TestNetlistMessages::escapedModuleNames()
+{
+    const QByteArray source = "module \\$add (input a); wire \\b$c = a; \\box+1 u9(.p(a)); endmodule\n"
+                              "module other(input a); \\$add u(.a(a)); endmodule\n";
+    const probe::Result whole = build(source);
+    QVERIFY2(whole.netlist, qPrintable(whole.error));
+    QCOMPARE(whole.modules, QStringList({"$add", "other"}));
+    QCOMPARE(whole.netlist->topHierarchy()->children().first()->module(), QString("$add"));
+    QVERIFY(whole.netlist->findNet("u/b$c"));
+    const probe::Result part = build(source, "$add");
+    QCOMPARE(part.tops, QStringList("$add"));
+    QCOMPARE(part.netlist->topHierarchy()->name(), QString("$add"));
 }
 
 void TestNetlistMessages::blackBoxIsNoTop()

@@ -20,6 +20,8 @@ private slots:
     void readsModulesTypesAndRoots();
     void constants_data();
     void constants();
+    void names_data();
+    void names();
     void truncatedTextIsAnError();
     void foreignTextIsAnError_data();
     void foreignTextIsAnError();
@@ -128,6 +130,25 @@ void TestVerilatorXml::constants()
     QTEST(parseVerilatorConstant(text, &value), "isNumber");
     if (parseVerilatorConstant(text, &value))
         QTEST(value, "value");
+}
+
+void TestVerilatorXml::names_data()
+{
+    QTest::addColumn<QByteArray>("encoded");
+    QTest::addColumn<QByteArray>("decoded");
+    QTest::newRow("plain") << QByteArray("fifo_v2") << QByteArray("fifo_v2");
+    QTest::newRow("dollar") << QByteArray("__024add") << QByteArray("$add");
+    QTest::newRow("several") << QByteArray("a__02bb__05b1__05d") << QByteArray("a+b[1]");
+    QTest::newRow("scope") << QByteArray("g__BRA__1__KET____DOT__u") << QByteArray("g[1].u");
+    QTest::newRow("clone") << QByteArray("leaf__W8") << QByteArray("leaf__W8");
+    QTest::newRow("cut off") << QByteArray("leaf__0") << QByteArray("leaf__0");
+    QTest::newRow("no code") << QByteArray("leaf__0zz") << QByteArray("leaf__0zz");
+}
+
+void TestVerilatorXml::names()
+{
+    QFETCH(QByteArray, encoded);
+    QTEST(decodedVerilatorName(encoded), "decoded");
 }
 
 void TestVerilatorXml::truncatedTextIsAnError()
