@@ -3,6 +3,8 @@
 
 #include "engineprocess.h"
 
+#include "sandbox.h"
+
 #include <QElapsedTimer>
 #include <QLoggingCategory>
 #include <QProcessEnvironment>
@@ -27,12 +29,13 @@ constexpr rlim_t stackBytes = rlim_t(8) << 20;
 
 namespace {
 
-/// A process that dies with its parent and keeps to its limits.
+/// A process that dies with its parent, keeps to its limits, and writes in its folder only.
 class LimitedProcess : public QProcess
 {
 public:
-    explicit LimitedProcess(const EngineLimits &given)
+    LimitedProcess(const EngineLimits &given, const QString &folder)
         : limits(given)
+        , sandbox(folder)
         , parentId(getpid())
     {
     }
@@ -48,6 +51,8 @@ protected:
         limit(RLIMIT_FSIZE, limits.fileBytes);
         limit(RLIMIT_CORE, 0);
         limit(RLIMIT_STACK, stackBytes);
+        if (sandbox.isOffered() && !sandbox.enter())
+            _exit(127);
     }
 
 private:
@@ -60,6 +65,7 @@ private:
     }
 
     const EngineLimits limits;
+    const Sandbox sandbox;
     const pid_t parentId;
 };
 
@@ -105,7 +111,7 @@ EngineResult runEngine(const QString &program, const QStringList &arguments, con
     EngineLimits effective = limits;
     if (effective.memoryBytes == 0)
         effective.memoryBytes = defaultMemory();
-    LimitedProcess process(effective);
+    LimitedProcess process(effective, folder);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setStandardInputFile(QProcess::nullDevice());
     process.setWorkingDirectory(folder);

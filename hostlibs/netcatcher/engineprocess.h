@@ -35,8 +35,9 @@ struct EngineResult
     QByteArray messages; ///< what it wrote to its standard channels
 };
 
-/// Runs an engine in `folder`: without a shell, in a small environment, within limits, and never longer than this
-/// process lives. `idle` is called about twenty times a second while it works.
+/// Runs an engine in `folder`: without a shell, in a small environment, within limits, never longer than this process
+/// lives, and, where the kernel offers Landlock, unable to write anywhere else or to use a network. `idle` is called
+/// about twenty times a second while it works.
 EngineResult runEngine(const QString &program, const QStringList &arguments, const QString &folder,
                        const EngineLimits &limits, const std::function<void()> &idle);
 

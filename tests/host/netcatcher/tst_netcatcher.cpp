@@ -119,12 +119,11 @@ QMap<QString, QVariant> TestNetcatcher::info(const QByteArray &source, const QSt
     return {{"Top", top}, {"Files", QVariantList{file}}};
 }
 
-/// Lets the real engine wait a little, and count its runs.
+/// Lets the real engine wait a little.
 void TestNetcatcher::installSlowEngine() const
 {
-    const QByteArray runs = QFile::encodeName(dir->filePath("runs"));
-    const QString program = dir->write("bin/verilator_bin", "#!/bin/sh\necho run >> '" + runs +
-                                                                "'\nsleep 0.4\nexec /usr/bin/verilator_bin \"$@\"\n");
+    const QString program =
+        dir->write("bin/verilator_bin", "#!/bin/sh\nsleep 0.4\nexec /usr/bin/verilator_bin \"$@\"\n");
     QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
     qputenv("PATH", QFile::encodeName(dir->filePath("bin")) + ':' + path);
 }
@@ -156,12 +155,11 @@ void TestNetcatcher::modulesAreAppended()
 
 void TestNetcatcher::netlistIsBuiltFromTheSameEngineRun()
 {
-    installSlowEngine();
     catchModules(info(simple));
-    // What happens to the sources in between is the next read's business.
+    // What happens to sources and engine in between is the next read's business.
     dir->write("design.v", "module broken(");
+    qputenv("PATH", QFile::encodeName(dir->path()));
     QVERIFY(catchNets());
-    QCOMPARE(dir->read("runs"), QByteArray("run\n"));
 }
 
 void TestNetcatcher::netlistCanBeBuiltAgain()
