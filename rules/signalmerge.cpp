@@ -67,7 +67,7 @@ static uint qHash(const Identity &identity, uint seed = 0)
 static void bringUpToDate(VAK::SignalItem &record, const VAK::SignalItem &found)
 {
     record.present = true;
-    record.enabled = true;
+    record.enabled = found.enabled;
     QHash<QString, bool> usable;
     for (const VAK::SignalItem &member : found.members)
         usable.insert(member.name, member.enabled);

@@ -66,6 +66,7 @@ private slots:
     void busKeepsItsNameBesideAGroupOfThatName();
     void emptyListsGiveNothing();
     void listBeingPutTogetherKeepsOrderAndUnusableOnes();
+    void unusableRecordStaysSoWhenItIsFoundAgain();
 };
 
 void TestSignalMerge::sameSignal_data()
@@ -223,6 +224,17 @@ void TestSignalMerge::listBeingPutTogetherKeepsOrderAndUnusableOnes()
         takeNewSignals(chosen, {bus("d[1:0]", {"d[1]", "d[0]"}), net("a"), unusable, net("b"), net("b")});
     QCOMPARE(names(added), QStringList({"d[1:0]", "supply", "b"}));
     QCOMPARE(chosen, nets({"a"}));
+}
+
+void TestSignalMerge::unusableRecordStaysSoWhenItIsFoundAgain()
+{
+    VAK::SignalItem unusable = net("supply");
+    unusable.enabled = false;
+    Records chosen{unusable};
+    QVERIFY(takeNewSignals(chosen, {unusable}).isEmpty());
+    QCOMPARE(chosen, Records{unusable});
+    takeNewSignals(chosen, nets({"supply"}));
+    QCOMPARE(chosen, nets({"supply"}));
 }
 
 QTEST_APPLESS_MAIN(TestSignalMerge)

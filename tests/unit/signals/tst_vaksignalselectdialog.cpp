@@ -175,6 +175,9 @@ void TestVakSignalSelectDialog::unusableNetIsListedGrey()
     f.dialog.onAddAllSignal();
     QCOMPARE(f.chosen.topLevelItem(0)->foreground(0), QBrush(Qt::gray));
     QVERIFY(!(f.chosen.topLevelItem(0)->flags() & Qt::ItemIsSelectable));
+    f.dialog.onAddAllSignal(); // asking again makes it no more usable
+    QCOMPARE(f.chosen.topLevelItem(0)->foreground(0), QBrush(Qt::gray));
+    QVERIFY(!f.dialog.chosenSignals().at(0).enabled);
 }
 
 void TestVakSignalSelectDialog::memberOfAResultIsNotAddedAlone()
