@@ -4,13 +4,13 @@
 #include "trigger/muexpressiondialog.h"
 
 #include "rules/expressioncheck.h"
+#include "widgets/messagebox.h"
 
 #include "ui_muexpressiondialog.h"
 
 #include <VakUtils/aocore.h>
 
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalMapper>
 
@@ -66,7 +66,8 @@ void MuExpressionDialog::accept()
     if (isTriggerExpression(tokens))
         QDialog::accept();
     else
-        QMessageBox::warning(this, QStringLiteral("Warning"), QStringLiteral("Please input the right expression"));
+        private_impl::showBox(this, QMessageBox::Warning, QStringLiteral("Warning"),
+                              QStringLiteral("Please input the right expression"));
 }
 
 void MuExpressionDialog::expBtnClicked(QString token)

@@ -11,6 +11,7 @@
 
 #include "rules/implementationlist.h"
 #include "rules/triggerusage.h"
+#include "widgets/messagebox.h"
 
 #include "ui_triggeroptionwidget.h"
 
@@ -26,7 +27,6 @@
 #include <VakUtils/vaktool.h>
 
 #include <QMenu>
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPointer>
 
@@ -311,7 +311,8 @@ void TriggerOptionWidget::editExpression(QListWidgetItem *item)
 bool TriggerOptionWidget::addExpression(const QString &refusalTitle)
 {
     if (ui->listExpression->count() >= VAK::MaxExpressions) {
-        QMessageBox::warning(this, refusalTitle, QStringLiteral("Support 16 expressions at most."));
+        private_impl::showBox(this, QMessageBox::Warning, refusalTitle,
+                              QStringLiteral("Support 16 expressions at most."));
         return false;
     }
     const QString text = askForExpression();

@@ -7,11 +7,12 @@
 #include "signals/vaksignalselectdialog.h"
 #include "trigger/signalselection.h"
 
+#include "widgets/messagebox.h"
+
 #include "ui_triggerportdialog.h"
 
 #include <VakUtils/triggerport.h>
 
-#include <QMessageBox>
 #include <QPointer>
 
 namespace RTLVAK {
@@ -49,7 +50,8 @@ TriggerPortDialog::~TriggerPortDialog()
 void TriggerPortDialog::accept()
 {
     if (inputCount() > MaxInputs) {
-        QMessageBox::warning(this, QStringLiteral("Warning"), QStringLiteral("Support 64 signals at most."));
+        private_impl::showBox(this, QMessageBox::Warning, QStringLiteral("Warning"),
+                              QStringLiteral("Support 64 signals at most."));
         return;
     }
     port->setSignalNet(ui->treeWidget->signalItems());

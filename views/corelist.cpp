@@ -3,7 +3,7 @@
 
 #include "views/corelist.h"
 
-#include "views/messagebox.h"
+#include "widgets/messagebox.h"
 
 #include <VakUtils/aocore.h>
 

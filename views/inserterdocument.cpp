@@ -3,11 +3,12 @@
 
 #include "views/inserterdocument.h"
 
-#include "views/messagebox.h"
 #include "views/rtlnetlistsource.h"
+#include "widgets/messagebox.h"
 
 #include "plugin/vakinserterview.h"
 #include "rules/designevents.h"
+#include "widgets/messagebox.h"
 #include "widgets/reloadbanner.h"
 
 #include <OVTE/designmanager.h>

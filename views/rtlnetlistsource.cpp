@@ -3,7 +3,7 @@
 
 #include "views/rtlnetlistsource.h"
 
-#include "views/messagebox.h"
+#include "widgets/messagebox.h"
 #include "widgets/messagedlg.h"
 
 #include <OVTE/designmanager.h>

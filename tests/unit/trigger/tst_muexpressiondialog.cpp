@@ -34,6 +34,7 @@ private slots:
     void tokensAreCheckedNotTheText();
     void cancelRejects();
     void enablesAndDisablesNoButton();
+    void dialogMayGoUnderItsWarning();
 };
 
 static QString shown(const MuExpressionDialog &dialog)
@@ -236,6 +237,15 @@ void tst_MuExpressionDialog::enablesAndDisablesNoButton()
     click(dialog, {"btnM0", "btnClear", "btnM1", "btnBackspace"});
     QVERIFY(!unit.isEnabled());
     QVERIFY(support::child<QPushButton>(dialog, "btnM9").isEnabled());
+}
+
+void tst_MuExpressionDialog::dialogMayGoUnderItsWarning()
+{
+    const QPointer<MuExpressionDialog> dialog = new MuExpressionDialog;
+    support::DialogDriver driver;
+    driver.actOnBox([dialog](QMessageBox &) { delete dialog.data(); });
+    QMetaObject::invokeMethod(dialog.data(), "accept");
+    QVERIFY(!dialog);
 }
 
 QTEST_MAIN(tst_MuExpressionDialog)

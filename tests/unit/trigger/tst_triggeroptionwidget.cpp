@@ -38,6 +38,8 @@ private slots:
     void deviceChangeRefillsTheStorage();
     void otherEventsAreIgnored();
     void pageThatDiesUnderItsDialog();
+    void pageThatDiesUnderItsMenu();
+    void pageThatDiesUnderItsWarning();
 };
 
 void tst_TriggerOptionWidget::initTestCase()
@@ -323,6 +325,42 @@ void tst_TriggerOptionWidget::pageThatDiesUnderItsDialog()
         }
         QVERIFY2(!page, action);
     }
+}
+
+void tst_TriggerOptionWidget::pageThatDiesUnderItsMenu()
+{
+    fakes::resetEvents();
+    VAK::AoCore core(0);
+    const QPointer<RTLVAK::TriggerOptionWidget> page = new RTLVAK::TriggerOptionWidget(&core, nullptr);
+    support::DialogDriver driver;
+    driver.actOnMenu([page](QMenu &) { delete page.data(); });
+    QMetaObject::invokeMethod(page.data(), "showExpListContextMenu", Q_ARG(QPoint, QPoint(5, 5)));
+    QVERIFY(!page);
+}
+
+void tst_TriggerOptionWidget::pageThatDiesUnderItsWarning()
+{
+    fakes::resetEvents();
+    VAK::AoCore core(0);
+    QStringList full;
+    while (full.size() < 16)
+        full.append(QStringLiteral("M0"));
+    core.setExpression(full);
+    support::DialogDriver driver;
+
+    QPointer<RTLVAK::TriggerOptionWidget> page = new RTLVAK::TriggerOptionWidget(&core, nullptr);
+    driver.chooseFromMenu(QStringLiteral("Add"));
+    driver.actOnBox([&page](QMessageBox &) { delete page.data(); });
+    QMetaObject::invokeMethod(page.data(), "showExpListContextMenu", Q_ARG(QPoint, QPoint(5, 5)));
+    QVERIFY(!page);
+
+    page = new RTLVAK::TriggerOptionWidget(&core, nullptr);
+    page->resize(900, 700); // room below the sixteenth row
+    page->show();
+    const auto &list = support::child<QListWidget>(*page, "listExpression");
+    driver.actOnBox([&page](QMessageBox &) { delete page.data(); });
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(5, list.viewport()->height() - 2));
+    QVERIFY(!page);
 }
 
 QTEST_MAIN(tst_TriggerOptionWidget)

@@ -47,6 +47,7 @@ private slots:
     void countFollowsGroupingAndAdding();
     void menuIsAllowed();
     void parentThatDiesUnderTheSearchTakesTheDialogAlong();
+    void dialogMayGoUnderItsWarning();
 };
 
 static RTLVAK::signalTreeWidget &tree(const TriggerPortDialog &dialog)
@@ -338,6 +339,18 @@ void tst_TriggerPortDialog::parentThatDiesUnderTheSearchTakesTheDialogAlong()
     driver.answerDialog([dialog](QDialog &) { delete dialog.data(); });
     QMetaObject::invokeMethod(dialog.data(), "onAdd");
     QVERIFY(!dialog);
+}
+
+void tst_TriggerPortDialog::dialogMayGoUnderItsWarning()
+{
+    VAK::TriggerPort port(0);
+    port.setSignalNet({bus(QStringLiteral("data"), 65)});
+    const QPointer<TriggerPortDialog> dialog = new TriggerPortDialog(&port, nullptr);
+    support::DialogDriver driver;
+    driver.actOnBox([dialog](QMessageBox &) { delete dialog.data(); });
+    QMetaObject::invokeMethod(dialog.data(), "accept");
+    QVERIFY(!dialog);
+    QCOMPARE(port.width(), 65);
 }
 
 QTEST_MAIN(tst_TriggerPortDialog)

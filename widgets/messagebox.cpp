@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The RtlVakIns authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "views/messagebox.h"
+#include "widgets/messagebox.h"
 
 #include <QPointer>
 
