@@ -22,6 +22,7 @@ declare -A may=(
     [hostlibs]="host hostlibs/device"
     [tests]=everything
     [bench]="host rules plugin hostlibs widgets signals trigger capture views bench"
+    [docs]="host rules plugin hostlibs widgets signals trigger capture views workbench"
 )
 # Headers that cross against the direction, because the layout forces them to, and who may include them.
 declare -A crossing=(
@@ -29,7 +30,7 @@ declare -A crossing=(
     [plugin/vakinserterview.h]="views/ workbench/"
     [plugin/vakviewmanager.h]="workbench/"
 )
-top_folders=" host rules widgets signals trigger capture views plugin cli workbench hostlibs tests bench examples forms "
+top_folders=" host rules widgets signals trigger capture views plugin cli workbench hostlibs tests bench docs examples forms "
 host_libraries=" IdeCore ExtSys OVTE QUtility Device netcatcher VakUtils "
 # What has no screen names no class of the toolkit that has one.
 screenless="rules/ cli/ hostlibs/device/ hostlibs/qutility/"
@@ -86,7 +87,7 @@ while IFS=: read -r file line text; do
             breach "$file:$line" "$folder, which works without a screen," "$path"
         fi
     done
-done < <(find host rules widgets signals trigger capture views plugin cli workbench hostlibs tests bench \
+done < <(find host rules widgets signals trigger capture views plugin cli workbench hostlibs tests bench docs \
     \( -name '*.h' -o -name '*.cpp' \) -print0 2>/dev/null |
     sort -z | xargs -0 grep -HnE '^[[:space:]]*#[[:space:]]*include[[:space:]]*[<"]')
 
