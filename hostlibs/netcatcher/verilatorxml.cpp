@@ -5,11 +5,10 @@
 
 #include "variableuses.h"
 #include "verilatortags.h"
+#include "verilatortext.h"
+#include "verilatortypes.h"
 
 #include <QXmlStreamReader>
-
-#include <algorithm>
-#include <limits>
 
 namespace NETCATCHER {
 
@@ -39,6 +38,7 @@ public:
     Reader(QIODevice &device, RawDesign &result)
         : xml(&device)
         , design(result)
+        , types(result.types)
     {
     }
 
@@ -61,7 +61,6 @@ private:
     void addConstant(const Frame &frame);
     void addReference(const Frame &frame);
     void addPathReference();
-    void addType(const Frame &frame);
     void setRange(int position, int value);
     bool isInModule() const { return moduleDepth > 0 && stack.size() >= moduleDepth; }
 
@@ -75,7 +74,7 @@ private:
     QByteArray scopeName;
     bool constantAssigned = false; ///< the assignment being read names no variable on its right side so far
     bool tristateAssigned = false;
-    int lastType = 0;
+    VerilatorTypes types;
 };
 
 QByteArray Reader::text(const char *attribute) const
@@ -233,7 +232,7 @@ void Reader::enter(Frame &frame)
         break;
     default:
         if (frame.tag >= Tag::BasicType || (!stack.empty() && stack.back().tag == Tag::TypeTable))
-            addType(frame);
+            types.add(frame.tag, stack.empty() ? Tag::Other : stack.back().tag, attributes);
         break;
     }
 }
@@ -330,8 +329,7 @@ void Reader::setRange(int position, int value)
         instance.isArray = true;
         (position == 0 ? instance.left : instance.right) = value;
     } else if (owner == Tag::PackedArrayType || owner == Tag::UnpackedArrayType) {
-        RawType &type = design.types[lastType];
-        (position == 0 ? type.left : type.right) = value;
+        types.setBound(position, value);
     }
 }
 
@@ -382,98 +380,7 @@ void Reader::addPathReference()
     design.remotely.insert(text("name"));
 }
 
-static RawType::Kind basicKind(const QByteArray &name, bool hasRange)
-{
-    if (name == "string" || name == "event" || name == "real" || name == "realtime" || name == "shortreal" ||
-        name == "double")
-        return RawType::NotANet;
-    if (name == "chandle")
-        return RawType::Handle;
-    return hasRange ? RawType::Vector : RawType::Scalar;
-}
-
-void Reader::addType(const Frame &frame)
-{
-    if (frame.tag == Tag::MemberType && !stack.empty() && stack.back().tag == Tag::StructType) {
-        design.types[lastType].members.push_back({text("name"), number("sub_dtype_id")});
-        return;
-    }
-    RawType type;
-    type.element = number("sub_dtype_id");
-    switch (frame.tag) {
-    case Tag::BasicType:
-        type.left = number("left");
-        type.right = number("right");
-        type.kind = basicKind(text("name"), attributes.hasAttribute(QLatin1String("left")));
-        break;
-    case Tag::AliasType:
-    case Tag::MemberType:
-        type.kind = RawType::Alias;
-        break;
-    case Tag::PackedArrayType:
-        type.kind = RawType::PackedArray;
-        break;
-    case Tag::UnpackedArrayType:
-        type.kind = RawType::UnpackedArray;
-        break;
-    case Tag::StructType:
-        type.kind = RawType::Struct;
-        break;
-    case Tag::HandleType:
-        type.kind = RawType::Handle;
-        break;
-    default:
-        break;
-    }
-    lastType = number("id");
-    design.types.insert(lastType, type);
-}
-
 } // namespace
-
-QByteArray decodedVerilatorName(const QByteArray &name)
-{
-    static const QList<std::pair<QByteArray, QByteArray>> words{{"__DOT__", "."}, {"__BRA__", "["}, {"__KET__", "]"}};
-    QByteArray result;
-    for (int i = 0; i < name.size();) {
-        bool isCode = false;
-        const char code = char(name.mid(i + 3, 2).toInt(&isCode, 16));
-        const QByteArray rest = QByteArray::fromRawData(name.constData() + i, name.size() - i);
-        const auto word =
-            std::find_if(words.begin(), words.end(), [&rest](const auto &each) { return rest.startsWith(each.first); });
-        if (word != words.end()) {
-            result += word->second;
-            i += word->first.size();
-        } else if (isCode && rest.startsWith("__0") && rest.size() >= 5) {
-            result += code;
-            i += 5;
-        } else {
-            result += name[i++];
-        }
-    }
-    return result;
-}
-
-bool parseVerilatorConstant(const QString &text, int *value)
-{
-    static const QHash<QChar, int> bases{
-        {QLatin1Char('h'), 16}, {QLatin1Char('d'), 10}, {QLatin1Char('o'), 8}, {QLatin1Char('b'), 2}};
-    const int quote = text.indexOf(QLatin1Char('\''));
-    const int width = text.left(quote).toInt();
-    QString digits = text.mid(quote + 1);
-    const bool isSigned = digits.startsWith(QLatin1Char('s'));
-    if (isSigned)
-        digits.remove(0, 1);
-    const int base = digits.isEmpty() ? 0 : bases.value(digits[0]);
-    if (quote < 1 || width < 1 || width > 63 || base == 0)
-        return false;
-    bool isNumber = false;
-    qint64 number = digits.mid(1).toLongLong(&isNumber, base);
-    if (isSigned && isNumber && number >> (width - 1) & 1)
-        number -= qint64(1) << width;
-    *value = int(number);
-    return isNumber && number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
-}
 
 bool readVerilatorXml(QIODevice &device, RawDesign &design, const std::function<void(qint64)> &progress, QString *error)
 {

@@ -18,11 +18,4 @@ namespace NETCATCHER {
 bool readVerilatorXml(QIODevice &device, RawDesign &design, const std::function<void(qint64)> &progress,
                       QString *error);
 
-/// The name in the source behind one that Verilator made a plain identifier of: `__024add` is `$add`. Some places of
-/// the XML have the one form, some the other.
-QByteArray decodedVerilatorName(const QByteArray &name);
-
-/// The value of a constant as Verilator writes it (`32'shfffffffc` is -4); false when it is no number of 32 bits.
-bool parseVerilatorConstant(const QString &text, int *value);
-
 } // namespace NETCATCHER

@@ -3,6 +3,7 @@
 
 #include "hostlibs/netcatcher/designexpansion.h"
 #include "hostlibs/netcatcher/netstore.h"
+#include "hostlibs/netcatcher/verilatortext.h"
 #include "hostlibs/netcatcher/verilatorxml.h"
 
 #include <QBuffer>
