@@ -42,6 +42,7 @@ private slots:
     void missingIncludeFolderIsAWarning();
     void vhdlIsAWarning();
     void wrongPinOfARealModuleIsAnError();
+    void assignmentToAnInputIsTolerated();
     void binaryFileIsAnError();
     void moduleInsideItselfIsAnError();
 
@@ -307,6 +308,14 @@ void TestNetlistMessages::wrongPinOfARealModuleIsAnError()
     const probe::Result result = build("module a(input x);\nleaf u(.nope(x));\nvendor v(.x(x));\nendmodule\n"
                                        "module leaf(input x); endmodule\n");
     QCOMPARE(result.errors(), QStringList("ERROR: " + dir->filePath("design.sv") + ":2: Pin not found: 'nope'"));
+}
+
+void TestNetlistMessages::assignmentToAnInputIsTolerated()
+{
+    // Models of I/O cells are written like this; the nets are as good as any.
+    const probe::Result result = build("module a(input i, inout p); assign i = p; endmodule\n");
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(probe::rows(*result.netlist), QStringList({"i", "p\tunusable"}));
 }
 
 void TestNetlistMessages::binaryFileIsAnError()
