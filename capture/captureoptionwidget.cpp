@@ -161,6 +161,7 @@ void CaptureOptionWidget::applySignals(const QList<VAK::SignalItem> &signalItems
 void CaptureOptionWidget::setRtlNetlist(NETCATCHER::RtlNetlist *newNetlist)
 {
     netlist = newNetlist;
+    VakSignalSelectDialog::passOn(netlist, this);
 }
 
 void CaptureOptionWidget::refreshFromNetlist()

@@ -113,6 +113,7 @@ void LiteCaptureOptionWidget::applyToCore()
 void LiteCaptureOptionWidget::setRtlNetlist(NETCATCHER::RtlNetlist *newNetlist)
 {
     netlist = newNetlist;
+    VakSignalSelectDialog::passOn(netlist, this);
 }
 
 void LiteCaptureOptionWidget::refreshFromNetlist()

@@ -3,6 +3,10 @@
 
 #include "signals/signalrow.h"
 
+#include "signals/treerows.h"
+
+#include "rules/signalresolver.h"
+
 #include <QBrush>
 #include <QFont>
 #include <QHash>
@@ -205,6 +209,15 @@ void changeSignals(const QList<QTreeWidgetItem *> &rows, const SignalChange &cha
         updateSignalRow(it.key(), it.value());
         colourSignalRow(it.key());
     }
+}
+
+void resolveRows(QTreeWidget *tree, const NETCATCHER::RtlNetlist *netlist)
+{
+    if (!netlist)
+        return;
+    const NetLookup lookup = netLookup(netlist);
+    changeSignals(topLevelRows(tree, 0, tree->topLevelItemCount()),
+                  [&lookup](const VAK::SignalItem &record) { return resolvedSignal(record, lookup); });
 }
 
 void colourSignalRow(QTreeWidgetItem *row)

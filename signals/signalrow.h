@@ -13,6 +13,10 @@
 #include <functional>
 #include <optional>
 
+namespace NETCATCHER {
+class RtlNetlist;
+}
+
 namespace RTLVAK {
 
 /// What a row shows for a record: the display name when there is one, else the name.
@@ -40,5 +44,9 @@ VAKINS_EXPORT void changeSignals(const QList<QTreeWidgetItem *> &rows, const Sig
 /// The colours of one row by its record: grey when inactive or unusable, red when missing from the netlist, else black;
 /// an inactive row cannot be dragged. Writes only what differs.
 VAKINS_EXPORT void colourSignalRow(QTreeWidgetItem *row);
+
+/// Brings the records of the top-level rows up to date with the netlist, and the rows with them. Does nothing without
+/// one.
+VAKINS_EXPORT void resolveRows(QTreeWidget *tree, const NETCATCHER::RtlNetlist *netlist);
 
 } // namespace RTLVAK

@@ -55,6 +55,7 @@ VakSignalSelectDialog::VakSignalSelectDialog(NETCATCHER::RtlNetlist *rtlNetlist,
     ui->setupUi(this);
     setSizeGripEnabled(true);
     ui->widgetAdvancedFilter->hide();
+    setUpSearchIn();
     fillSearchIn();
     connect(ui->btnAdd, &QPushButton::clicked, this, &VakSignalSelectDialog::onAddSignal);
     connect(ui->btnAddAll, &QPushButton::clicked, this, &VakSignalSelectDialog::onAddAllSignal);
@@ -71,15 +72,36 @@ VakSignalSelectDialog::VakSignalSelectDialog(NETCATCHER::RtlNetlist *rtlNetlist,
 VakSignalSelectDialog::~VakSignalSelectDialog() = default;
 
 /// Makes the tree of instances the drop-down of the combo box: all open, nothing to fold.
+void VakSignalSelectDialog::setUpSearchIn()
+{
+    searchIn = new RtlNetlistTreeView(this);
+    searchIn->setTextElideMode(Qt::ElideMiddle);
+    searchIn->setItemsExpandable(false);
+    ui->comboBoxSearchIn->setModel(searchIn->model());
+    ui->comboBoxSearchIn->setView(searchIn);
+}
+
 void VakSignalSelectDialog::fillSearchIn()
 {
-    auto *view = new RtlNetlistTreeView(this);
-    view->setTextElideMode(Qt::ElideMiddle);
-    view->setRtlNetlist(netlist);
-    view->expandAll();
-    view->setItemsExpandable(false);
-    ui->comboBoxSearchIn->setModel(view->model());
-    ui->comboBoxSearchIn->setView(view);
+    searchIn->setRtlNetlist(netlist);
+    searchIn->expandAll();
+    ui->comboBoxSearchIn->setCurrentIndex(0);
+}
+
+void VakSignalSelectDialog::setRtlNetlist(NETCATCHER::RtlNetlist *newNetlist)
+{
+    netlist = newNetlist;
+    fillSearchIn();
+    ui->treeWidget->clear();
+    ui->labelResults->clear();
+    resolveRows(ui->treeWidgetAddSignal, netlist);
+}
+
+void VakSignalSelectDialog::passOn(NETCATCHER::RtlNetlist *newNetlist, const QWidget *page)
+{
+    const QList<VakSignalSelectDialog *> searches = page->findChildren<VakSignalSelectDialog *>();
+    for (VakSignalSelectDialog *search : searches)
+        search->setRtlNetlist(newNetlist);
 }
 
 QList<VAK::SignalItem> VakSignalSelectDialog::chosenSignals() const

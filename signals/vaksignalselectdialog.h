@@ -21,6 +21,7 @@ class VakSignalSelectDialog;
 
 namespace RTLVAK {
 
+class RtlNetlistTreeView;
 struct SearchCriteria;
 
 /// Finds nets and buses of the design by name and collects a list of chosen ones.
@@ -32,6 +33,12 @@ public:
     /// The netlist is borrowed and may be null: then nothing is found.
     explicit VakSignalSelectDialog(NETCATCHER::RtlNetlist *netlist, QWidget *parent = nullptr);
     ~VakSignalSelectDialog() override;
+
+    /// Goes on in another netlist, or in none, because the one before is about to end: what was found goes, what was
+    /// chosen stays and is brought up to date.
+    void setRtlNetlist(NETCATCHER::RtlNetlist *newNetlist);
+    /// Hands a netlist to the searches that are open over `page`.
+    static void passOn(NETCATCHER::RtlNetlist *newNetlist, const QWidget *page);
 
     /// The chosen list, top to bottom.
     QList<VAK::SignalItem> chosenSignals() const;
@@ -54,6 +61,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void setUpSearchIn();
     void fillSearchIn();
     SearchCriteria criteria() const;
     void search();
@@ -63,6 +71,7 @@ private:
 
     std::unique_ptr<::Ui::VakSignalSelectDialog> ui;
     NETCATCHER::RtlNetlist *netlist; ///< borrowed
+    RtlNetlistTreeView *searchIn = nullptr;
 };
 
 } // namespace RTLVAK

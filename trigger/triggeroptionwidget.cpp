@@ -138,6 +138,9 @@ void TriggerOptionWidget::showCoreMode()
 void TriggerOptionWidget::setRtlNetlist(NETCATCHER::RtlNetlist *newNetlist)
 {
     netlist = newNetlist;
+    const QList<TriggerPortDialog *> dialogs = findChildren<TriggerPortDialog *>();
+    for (TriggerPortDialog *dialog : dialogs)
+        dialog->setRtlNetlist(netlist);
 }
 
 void TriggerOptionWidget::refreshTriggerPorts()

@@ -3,6 +3,7 @@
 
 #include "trigger/triggerportdialog.h"
 
+#include "signals/signalrow.h"
 #include "signals/treerows.h"
 #include "signals/vaksignalselectdialog.h"
 #include "trigger/signalselection.h"
@@ -45,6 +46,13 @@ TriggerPortDialog::~TriggerPortDialog()
 {
     // The tree still tells its slots what goes away, so it goes first.
     delete ui->treeWidget;
+}
+
+void TriggerPortDialog::setRtlNetlist(NETCATCHER::RtlNetlist *newNetlist)
+{
+    netlist = newNetlist;
+    resolveRows(ui->treeWidget, netlist);
+    VakSignalSelectDialog::passOn(netlist, this);
 }
 
 void TriggerPortDialog::accept()

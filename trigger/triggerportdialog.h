@@ -32,6 +32,9 @@ public:
     TriggerPortDialog(VAK::TriggerPort *port, NETCATCHER::RtlNetlist *netlist, QWidget *parent = nullptr);
     ~TriggerPortDialog() override;
 
+    /// Goes on with another netlist, or with none, because the one before is about to end; brings the list up to date.
+    void setRtlNetlist(NETCATCHER::RtlNetlist *newNetlist);
+
 public slots:
     void accept() override;
 

@@ -10,6 +10,7 @@
 
 #include <QFileSystemWatcher>
 #include <QList>
+#include <QPointer>
 
 #include <utility>
 
@@ -48,9 +49,10 @@ public:
     /// Removes the core in `row` after the user has agreed, and renumbers the others.
     void removeCore(int row)
     {
-        if (!removalConfirmed(self().q, self().cores.size(), row))
-            return;
-        Page *page = self().widgets.takeAt(row);
+        const QPointer<Page> page = self().widgets.value(row);
+        if (!removalConfirmed(self().q, self().cores.size(), row) || !page)
+            return; // a reload of the file ends pages also while the question is open
+        self().widgets.removeOne(page);
         Core *core = page->core();
         takePage(page);
         delete page;
