@@ -112,26 +112,10 @@ bool NetStore::expand(QString *error)
         return false;
     }
     m_nodes.reserve(sizes[m_table.top]);
-    quint64 singles = 0, buses = 0, bits = 0;
-    const auto open = [&](quint32 module, quint32 parent, quint32 childIndex) {
-        Node node(*this);
-        node.moduleIndex = module;
-        node.parentNode = parent;
-        node.childIndex = childIndex;
-        node.firstSingle = quint32(singles);
-        node.firstBus = quint32(buses);
-        node.firstBit = bits;
-        const ModuleDef &def = m_table.modules[module];
-        node.subtreeEnd = quint32(m_nodes.size() + sizes[module]);
-        singles += def.singleCount();
-        buses += def.busCount();
-        bits += def.bitCount();
-        m_jtagUsed = m_jtagUsed || (!m_nodes.empty() && def.name == QLatin1String("OV_JTAG"));
-        m_nodes.push_back(node);
-    };
-    open(m_table.top, 0, 0);
+    quint64 bits = 0;
+    openNode(m_table.top, 0, 0, sizes, &bits);
     std::vector<std::pair<quint32, quint32>> path{{0, 0}}; // instance, next child
-    while (!path.empty() && singles + bits < maxHandles && buses < maxHandles) {
+    while (!path.empty() && m_singleCount + bits < maxHandles && m_busCount < maxHandles) {
         auto &[parent, next] = path.back();
         const auto &children = moduleOf(m_nodes[parent]).children;
         if (next == children.size()) {
@@ -139,15 +123,33 @@ bool NetStore::expand(QString *error)
             continue;
         }
         const quint32 childIndex = next++;
-        open(children[childIndex].module, parent, childIndex);
+        openNode(children[childIndex].module, parent, childIndex, sizes, &bits);
         path.emplace_back(quint32(m_nodes.size() - 1), 0);
     }
-    m_singleCount = quint32(singles);
-    m_busCount = quint32(buses);
-    if (singles + bits < maxHandles && buses < maxHandles && m_array.reserve(singles, bits, buses))
+    if (path.empty() && m_array.reserve(m_singleCount, bits, m_busCount))
         return true;
     *error = QStringLiteral("The design has too many nets for this machine.");
     return false;
+}
+
+/// Appends the record of an instance and counts its nets.
+void NetStore::openNode(quint32 module, quint32 parent, quint32 childIndex, const std::vector<quint64> &sizes,
+                        quint64 *bits)
+{
+    const ModuleDef &def = m_table.modules[module];
+    Node node(*this);
+    node.moduleIndex = module;
+    node.parentNode = parent;
+    node.childIndex = childIndex;
+    node.subtreeEnd = quint32(m_nodes.size() + sizes[module]);
+    node.firstSingle = quint32(m_singleCount);
+    node.firstBus = quint32(m_busCount);
+    node.firstBit = *bits;
+    m_singleCount += def.singleCount();
+    m_busCount += def.busCount();
+    *bits += def.bitCount();
+    m_jtagUsed = m_jtagUsed || (!m_nodes.empty() && def.name == QLatin1String("OV_JTAG"));
+    m_nodes.push_back(node);
 }
 
 void NetStore::makeHandles()
@@ -225,12 +227,12 @@ QList<RtlNet *> NetStore::bitsOf(quint64 handle) const
 
 quint32 NetStore::firstSingleOf(quint32 node) const
 {
-    return node < nodeCount() ? m_nodes[node].firstSingle : m_singleCount;
+    return node < nodeCount() ? m_nodes[node].firstSingle : quint32(m_singleCount);
 }
 
 quint32 NetStore::firstBusOf(quint32 node) const
 {
-    return node < nodeCount() ? m_nodes[node].firstBus : m_busCount;
+    return node < nodeCount() ? m_nodes[node].firstBus : quint32(m_busCount);
 }
 
 QList<RtlNet *> NetStore::singles(quint32 firstNode, quint32 endNode) const

@@ -85,6 +85,7 @@ public:
 private:
     explicit NetStore(ModuleTable table);
     bool expand(QString *error);
+    void openNode(quint32 module, quint32 parent, quint32 childIndex, const std::vector<quint64> &sizes, quint64 *bits);
     void makeHandles();
     quint32 firstSingleOf(quint32 node) const;
     quint32 firstBusOf(quint32 node) const;
@@ -95,8 +96,8 @@ private:
     ModuleTable m_table;
     std::vector<Node> m_nodes;
     mutable NetArray m_array; ///< bits appear on demand, behind a const interface
-    quint32 m_singleCount = 0;
-    quint32 m_busCount = 0;
+    quint64 m_singleCount = 0;
+    quint64 m_busCount = 0;
     bool m_jtagUsed = false;
 
     mutable QHash<quint32, QList<RtlNet *>> m_singlesBelow;
