@@ -68,6 +68,14 @@ static VakInserterView *findView(const QList<VakInserterView *> &views, const QS
     return nullptr;
 }
 
+static bool showOpenView(const QList<VakInserterView *> &views, const QString &path)
+{
+    VakInserterView *view = findView(views, path);
+    if (view)
+        Core::ViewManager::showView(view);
+    return view;
+}
+
 /// The view that edits files of the mode that `path` names; null, after the user was told, when there is none.
 static std::unique_ptr<VakInserterView> createView(const QString &path)
 {
@@ -110,10 +118,8 @@ void VakViewManager::deinit()
 
 bool VakViewManager::openInserterView(const QString &path, const DEV::DeviceArg &device)
 {
-    if (VakInserterView *open = findView(record->views, path)) {
-        Core::ViewManager::showView(open);
+    if (showOpenView(record->views, path))
         return true;
-    }
     std::unique_ptr<VakInserterView> view = createView(path);
     if (!view)
         return false;
@@ -123,6 +129,8 @@ bool VakViewManager::openInserterView(const QString &path, const DEV::DeviceArg 
             showError(errorString);
         return false;
     }
+    if (showOpenView(record->views, path)) // another opening overtook this one while the netlist was read
+        return true;
     qDebug() << "create vakins inserter: " << view.get();
     view->setDevice(device.device());
     manager->adopt(view.release());

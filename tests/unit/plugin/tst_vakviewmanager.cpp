@@ -54,6 +54,7 @@ private slots:
     void openedViewIsRegisteredThenShown();
     void sameFileIsNotOpenedTwice_data();
     void sameFileIsNotOpenedTwice();
+    void openingWithinAnOpeningMakesNoSecondView();
     void secondOpeningKeepsTheDevice();
     void pathsThatDifferInCaseAreDifferentFiles();
     void viewsAreListedInOrderOfOpening();
@@ -261,6 +262,20 @@ void TestVakViewManager::sameFileIsNotOpenedTwice()
     QCOMPARE(openViews(), QList<VakInserterView *>({first, second}));
     QCOMPARE(fakes::viewCalls().size(), 1);
     QCOMPARE(fakes::shownViews(), QList<Core::IView *>({first}));
+}
+
+void TestVakViewManager::openingWithinAnOpeningMakesNoSecondView()
+{
+    const QString path = standardFile("a.rvk");
+    fakes::whileCatchingNets([&path] {
+        fakes::whileCatchingNets({});
+        QVERIFY(openView(path, "KX-20"));
+    });
+    fakes::resetViews();
+    QVERIFY(VakViewManager::openInserterView(path, DEV::DeviceArg("KX-50")));
+    QCOMPARE(openViews().size(), 1);
+    QCOMPARE(openViews().at(0)->device(), QString("KX-20"));
+    QCOMPARE(fakes::shownViews(), QList<Core::IView *>({openViews().at(0), openViews().at(0)}));
 }
 
 void TestVakViewManager::secondOpeningKeepsTheDevice()
