@@ -141,7 +141,6 @@ bool InserterDocument::mayClose()
 {
     if (!modifiedFlag())
         return true;
-    const QPointer<QWidget> guard(view());
     const QMessageBox::StandardButton answer =
         showBox(view(), QMessageBox::Question, VakInserterView::tr("Save"),
                 VakInserterView::tr("Save changes to \"%1\" ?").arg(nativePath()),

@@ -3,9 +3,13 @@
 
 #include "viewfixture.h"
 
+#include "signals/vaksignalselectdialog.h"
+
 #include <QMenu>
 #include <QSignalSpy>
 #include <QtTest>
+
+#include <utility>
 
 using namespace RTLVAK;
 using namespace support;
@@ -38,6 +42,8 @@ private slots:
     void withOneCoreRemoveRefusesBeforeAsking();
     void removedCoresAreGoneFromTheFile();
     void addAfterRemovalTakesTheNextNumber();
+    void addAndRemovalLogTheNumbers();
+    void menuOpensAtTheMouse();
 
     void clickShowsTheCore();
     void doubleClickDoesNothingOfItsOwn();
@@ -80,7 +86,11 @@ void TestStandardViewCores::addedCoresPageHasTheNetlist()
     fixture.driver.chooseFromMenu("Add");
     fixture.contextMenu(-1);
     // Its clock is looked up in the netlist that the page was given.
-    fixture.driver.answerDialog([](QDialog &dialog) { dialog.reject(); });
+    fixture.driver.answerDialogOf<VakSignalSelectDialog>([](VakSignalSelectDialog &dialog) {
+        dialog.on_pushButtonSearch_clicked();
+        QCOMPARE(topTexts(child<QTreeWidget>(dialog, "treeWidget")).size(), 5);
+        dialog.reject();
+    });
     clickButton(fixture.page(1), "btnSampleClock");
     QCOMPARE(fixture.driver.dialogs(), QStringList{"RTLVAK::VakSignalSelectDialog"});
     fixture.standardView().setModified(false);
@@ -320,6 +330,45 @@ void TestStandardViewCores::addAfterRemovalTakesTheNextNumber()
     QCOMPARE(fixture.coreNumber(2), 2);
     QCOMPARE(fixture.clockShown(2), QString());
     fixture.standardView().setModified(false);
+}
+
+static QStringList loggedLines;
+
+static void keepDebugLine(QtMsgType type, const QMessageLogContext &, const QString &line)
+{
+    if (type == QtDebugMsg)
+        loggedLines += line;
+}
+
+void TestStandardViewCores::addAndRemovalLogTheNumbers()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open(2));
+    loggedLines.clear();
+    const QtMessageHandler usual = qInstallMessageHandler(keepDebugLine);
+    fixture.driver.chooseFromMenu("Add");
+    fixture.contextMenu(-1);
+    const QStringList added = std::exchange(loggedLines, {});
+    fixture.driver.chooseFromMenu("Remove");
+    fixture.driver.answerBox(QMessageBox::Ok);
+    fixture.contextMenu(0);
+    qInstallMessageHandler(usual);
+    QCOMPARE(added, QStringList({"0", "1", "2"}));
+    QCOMPARE(loggedLines, QStringList({"before changed", "0", "1", "after changed", "0", "1"}));
+    fixture.setModified(false);
+}
+
+void TestStandardViewCores::menuOpensAtTheMouse()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open(1));
+    QCursor::setPos(123, 45);
+    fixture.driver.actOnMenu([](QMenu &menu) {
+        QCOMPARE(menu.pos(), QPoint(123, 45));
+        menu.close();
+    });
+    fixture.contextMenu(0);
+    QCOMPARE(fixture.driver.menus().size(), 1);
 }
 
 void TestStandardViewCores::clickShowsTheCore()

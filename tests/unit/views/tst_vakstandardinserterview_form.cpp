@@ -5,8 +5,10 @@
 
 #include "widgets/changedbanner.h"
 
+#include <QAction>
 #include <QDockWidget>
 #include <QLayout>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -27,6 +29,7 @@ private slots:
     void formHasTheFixedNamesAndSizes();
     void netlistChangedBannerIsHiddenAndOkHidesItAgain();
     void pagesAreSilentWhileTheViewDies();
+    void theViewDiesInOrder();
 };
 
 void TestStandardViewForm::slotsAreDeclaredInTheFixedOrder()
@@ -114,6 +117,31 @@ void TestStandardViewForm::pagesAreSilentWhileTheViewDies()
     fixture.standardView().addAoOptionWidget(new NoisyPage(core.get(), nullptr, &fixture.view()));
     fixture.kill();
     QCOMPARE(spy.size(), 0);
+}
+
+void TestStandardViewForm::theViewDiesInOrder()
+{
+    ViewFixture fixture;
+    QVERIFY(fixture.open());
+    const int netlists = fakes::liveNetlists();
+    SignalLog log;
+    const auto note = [&log, netlists](QObject *dying, const QString &name) {
+        connect(dying, &QObject::destroyed, &log, [&log, name, netlists] {
+            log.note(fakes::liveNetlists() == netlists ? name + " with netlist" : name);
+        });
+    };
+    note(&fixture.page(0), "page");
+    const QUtil::IEventHandler *handler = &fixture.standardView();
+    connect(&fixture.page(0), &QObject::destroyed, &log,
+            [&log, handler] { log.note(fakes::subscriptionsOf(handler).isEmpty() ? "unsubscribed" : "subscribed"); });
+    fixture.driver.actOnMenu([&note](QMenu &menu) {
+        for (QAction *action : menu.actions())
+            note(action, action->text());
+        menu.close();
+    });
+    fixture.contextMenu(0);
+    fixture.kill();
+    QCOMPARE(log.names(), QStringList({"page with netlist", "unsubscribed", "Add", "Remove"}));
 }
 
 QTEST_MAIN(TestStandardViewForm)
