@@ -18,6 +18,22 @@ namespace RTLVAK {
 
 namespace private_impl {
 
+/// The toolkit reports a change of a whole item for as many columns as the item has data in. Rows that answer from
+/// their records have none at first, and without this the reported range would have no end.
+static void giveColumn(QTreeWidgetItem *item)
+{
+    if (item->treeWidget() && item->columnCount() == 0)
+        item->setData(0, Qt::ForegroundRole, QVariant());
+}
+
+static void changeFlags(QTreeWidgetItem *item, Qt::ItemFlags flags)
+{
+    if (flags == item->flags())
+        return;
+    giveColumn(item);
+    item->setFlags(flags);
+}
+
 /// What a record gives for a role; an invalid value for the roles that it does not decide.
 static QVariant presentation(const VAK::SignalItem &record, int role)
 {
@@ -93,7 +109,11 @@ public:
         return QTreeWidgetItem::data(column, role);
     }
 
-    void refresh() { emitDataChanged(); }
+    void refresh()
+    {
+        giveColumn(this);
+        emitDataChanged();
+    }
 
 private:
     const SignalRow *owner; ///< the parent row; members are never moved to another one
@@ -108,7 +128,7 @@ static void setUsable(QTreeWidgetItem *item, bool usable)
     flags = usable ? flags | touched : flags & ~touched;
     if (flags == item->flags())
         return;
-    item->setFlags(flags);
+    changeFlags(item, flags);
     if (!usable)
         item->setForeground(0, QBrush(Qt::gray));
     else if (item->data(0, Qt::ForegroundRole).isValid())
@@ -134,6 +154,7 @@ void SignalRow::setRecord(const VAK::SignalItem &newRecord)
         qDeleteAll(takeChildren());
     record = newRecord;
     setUsable(this, record.enabled);
+    giveColumn(this);
     emitDataChanged();
     if (!sameCount)
         return addMembers();
@@ -227,8 +248,7 @@ void colourSignalRow(QTreeWidgetItem *row)
         return;
     const bool active = record->active != 0;
     const Qt::ItemFlags flags = active ? row->flags() | Qt::ItemIsDragEnabled : row->flags() & ~Qt::ItemIsDragEnabled;
-    if (flags != row->flags())
-        row->setFlags(flags);
+    private_impl::changeFlags(row, flags);
     row->setForeground(0, QBrush(private_impl::colourOf(*record, active))); // an equal value is no change
     for (int i = 0; i < row->childCount(); ++i)
         row->child(i)->setForeground(0, QBrush(private_impl::colourOf(record->members.at(i), active)));

@@ -10,6 +10,7 @@
 
 #include <netcatcher/rtlnetlist.h>
 
+#include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -92,4 +93,6 @@ struct DialogFixture
     QCheckBox &advancedFilter = support::child<QCheckBox>(dialog, "checkBoxAdvancedFilter");
     QLabel &resultLabel = support::child<QLabel>(dialog, "labelResults");
     QLabel &chosenLabel = support::child<QLabel>(dialog, "labelChosen");
+    QAbstractItemModelTester resultTester{results.model()};
+    QAbstractItemModelTester chosenTester{chosen.model()};
 };

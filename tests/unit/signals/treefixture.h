@@ -8,14 +8,19 @@
 #include "support/signallog.h"
 #include "unit/signals/records.h"
 
+#include <QAbstractItemModelTester>
 #include <QDropEvent>
 #include <QMimeData>
 
-/// A shown signal tree whose emissions are noted.
+#include <memory>
+
+/// A shown signal tree whose emissions are noted and whose model is watched for mistakes.
 struct TreeFixture : RTLVAK::signalTreeWidget
 {
     explicit TreeFixture(const QList<VAK::SignalItem> &items)
     {
+        if (items.size() < 100) // the tester looks at every row after every change
+            tester = std::make_unique<QAbstractItemModelTester>(model());
         insertSignals(0, items);
         updatePresentation();
         resize(300, 400);
@@ -59,6 +64,7 @@ struct TreeFixture : RTLVAK::signalTreeWidget
     QPoint lowerHalf(const QTreeWidgetItem *item) const { return visualItemRect(item).bottomLeft() + QPoint(5, -1); }
     QPoint belowAll() const { return viewport()->rect().bottomLeft() + QPoint(5, -2); }
 
+    std::unique_ptr<QAbstractItemModelTester> tester;
     support::SignalLog log;
     bool wasAccepted = false;
 };

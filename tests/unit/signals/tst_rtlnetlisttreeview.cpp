@@ -7,6 +7,7 @@
 #include "support/doubles.h"
 #include "support/widgethelpers.h"
 
+#include <QAbstractItemModelTester>
 #include <QtTest>
 
 #include <memory>
@@ -58,6 +59,7 @@ void TestRtlNetlistTreeView::nullNetlistGivesAnEmptyView()
 {
     const Netlist netlist(fakes::makeNetlist(smallDesign()));
     RtlNetlistTreeView view;
+    const QAbstractItemModelTester tester(view.model());
     view.setRtlNetlist(netlist.get());
     QCOMPARE(view.rtlNetlist(), netlist.get());
     view.setRtlNetlist(nullptr);
