@@ -114,6 +114,7 @@ void tst_CaptureEmissions::modifiedCount_data()
         selectRow(b, 1);
         b.tree().onSplit();
     });
+    row("rows sorted", 1, [](CaptureBench &b) { b.tree().sortItems(0, Qt::DescendingOrder); });
     row("selection", 0, [](CaptureBench &b) { selectRow(b, 1); });
     row("device event, same lists", 0, [](CaptureBench &) { fakes::publish(QStringLiteral("TE.Device.Change")); });
 }

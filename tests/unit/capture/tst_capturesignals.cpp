@@ -43,6 +43,8 @@ private slots:
     void treeLooksAsItShould();
     void missingSignalsAreRedAndInactiveOnesGrey();
     void nullNetlistIsTolerated();
+    void pageMayDieUnderItsDialogs_data();
+    void pageMayDieUnderItsDialogs();
 };
 
 void tst_CaptureSignals::initTestCase()
@@ -320,6 +322,26 @@ void tst_CaptureSignals::nullNetlistIsTolerated()
     });
     support::clickButton(bench.page(), "btnAdd");
     QCOMPARE(bench.tree().topLevelItemCount(), 0);
+}
+
+void tst_CaptureSignals::pageMayDieUnderItsDialogs_data()
+{
+    QTest::addColumn<QString>("slot");
+    QTest::newRow("clock") << "onSelectClock";
+    QTest::newRow("signals") << "onAddDataSignals";
+    QTest::newRow("signals from the trigger") << "onAddFromTrigger";
+}
+
+void tst_CaptureSignals::pageMayDieUnderItsDialogs()
+{
+    QFETCH(QString, slot);
+    VAK::AoCore core(0);
+    const QPointer<RTLVAK::CaptureOptionWidget> page = new RTLVAK::CaptureOptionWidget(&core, nullptr);
+    DialogDriver driver;
+    driver.answerDialog([page](QDialog &) { delete page.data(); });
+    QMetaObject::invokeMethod(page.data(), qPrintable(slot));
+    QVERIFY(!page);
+    QCOMPARE(driver.dialogs().size(), 1);
 }
 
 QTEST_MAIN(tst_CaptureSignals)

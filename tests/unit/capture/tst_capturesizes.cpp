@@ -8,6 +8,7 @@
 #include "tests/support/doubles.h"
 
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QListView>
 #include <QRadioButton>
 #include <QtTest>
@@ -18,6 +19,7 @@ class tst_CaptureSizes : public QObject
 
 private slots:
     void initTestCase();
+    void formTexts();
     void offersFifteenStorageSizes();
     void newCoreShowsItsDefaults();
     void loadsWhatTheCoreHolds();
@@ -58,6 +60,35 @@ static QStringList texts(const QList<int> &numbers)
 void tst_CaptureSizes::initTestCase()
 {
     QCOMPARE(support::missingDoubles(), QString());
+}
+
+void tst_CaptureSizes::formTexts()
+{
+    CaptureBench bench;
+    QStringList labels;
+    for (const QLabel *label : bench.page().findChildren<QLabel *>())
+        labels.append(label->text());
+    for (const char *text : {"Clock:", "Sample On:", "Storage Size:", "Capture Amount:", "Trigger Position:"})
+        QVERIFY2(labels.contains(QLatin1String(text)), text);
+    QCOMPARE(bench.child<QLabel>("labelWinNum").text(), QStringLiteral("Segments Number:"));
+    QCOMPARE(bench.child<QLabel>("labelImpl").text(), QStringLiteral("VAK Implementation:"));
+    QStringList titles;
+    for (const QGroupBox *group : bench.page().findChildren<QGroupBox *>())
+        titles.append(group->title());
+    for (const char *title : {"Sample Clock", "Capture", "Capture Utilization", "Capture Signals"})
+        QVERIFY2(titles.contains(QLatin1String(title)), title);
+    const QList<QPair<const char *, QString>> buttons{
+        {"btnSampleClock", QStringLiteral("...")},
+        {"btnAdd", QStringLiteral("Add")},
+        {"btnAddFromTp", QStringLiteral("Add From Trigger")},
+        {"btnRemove", QStringLiteral("Remove")},
+        {"radioButtonRising", QStringLiteral("Rising")},
+        {"radioButtonFalling", QStringLiteral("Falling")},
+        {"chkBoxCaptureInitial", QStringLiteral("Capture Initial Data")},
+        {"chkBoxForceTrigFalling", QStringLiteral("Force Trigger by Falling Edge")},
+    };
+    for (const auto &button : buttons)
+        QCOMPARE(bench.child<QAbstractButton>(button.first).text(), button.second);
 }
 
 void tst_CaptureSizes::offersFifteenStorageSizes()

@@ -104,6 +104,10 @@ private slots:
     void refreshMarksWhatIsGone();
     void refreshKeepsUnsavedEdits();
     void nullNetlistChangesNothing();
+    void disablingASignalUpdatesListAndUsage();
+    void signalsMoveAboveInactiveOnesAtTheStart();
+    void pageMayDieUnderItsDialogs_data();
+    void pageMayDieUnderItsDialogs();
 
 private:
     std::unique_ptr<VAK::AOCore_Lite> core;
@@ -205,6 +209,11 @@ void tst_LiteCaptureOptionWidget::formTexts()
     QVERIFY(!widget.findChild<QPushButton *>("btnAddFromTp"));
     QCOMPARE(treeOf(widget).styleSheet(), QString("QTreeWidget::item { height: 20px;}"));
     QCOMPARE(treeOf(widget).textElideMode(), Qt::ElideMiddle);
+    QCOMPARE(treeOf(widget).selectionMode(), QAbstractItemView::ExtendedSelection);
+    QCOMPARE(treeOf(widget).dragDropMode(), QAbstractItemView::InternalMove);
+    QVERIFY(treeOf(widget).dragEnabled());
+    QVERIFY(!treeOf(widget).tabKeyNavigation());
+    QCOMPARE(treeOf(widget).horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
 }
 
 void tst_LiteCaptureOptionWidget::captureAmountsStartAtTwo()
@@ -415,6 +424,7 @@ void tst_LiteCaptureOptionWidget::modifiedCounts_data()
     QTest::newRow("initial data, which switches the input register on")
         << Action([](auto &widget) { in<QCheckBox>(widget, "capIniDataCheckBox").click(); }) << 2;
     QTest::newRow("a row is dragged") << Action([](auto &widget) { emit treeOf(widget).itemDragged(); }) << 1;
+    QTest::newRow("rows sorted") << Action([](auto &widget) { treeOf(widget).sortItems(0, Qt::DescendingOrder); }) << 1;
     QTest::newRow("a device event that changes nothing here")
         << Action([](auto &) { fakes::publish("TE.Device.Change"); }) << 0;
 }
@@ -541,6 +551,46 @@ void tst_LiteCaptureOptionWidget::nullNetlistChangesNothing()
     page.setRtlNetlist(nullptr);
     QVERIFY(core->getallCapSignal().first().present);
     QCOMPARE(spy.count(), 0);
+}
+
+void tst_LiteCaptureOptionWidget::disablingASignalUpdatesListAndUsage()
+{
+    fakes::setCurrentDevice("KXB-S2");
+    LiteCaptureOptionWidget widget(core.get(), netlist.get());
+    QCOMPARE(offered(widget), QStringList("BSRAM"));
+    QSignalSpy spy(&widget, &LiteCaptureOptionWidget::modified);
+    treeOf(widget).topLevelItem(1)->setSelected(true);
+    treeOf(widget).onDisable();
+    QCOMPARE(offered(widget), QStringList({"BSRAM", "REG"}));
+    QCOMPARE(spy.count(), 3); // the list is emptied and filled, and the tree tells of the change
+    in<QComboBox>(widget, "implementation").setCurrentText("REG");
+    QVERIFY(in<QLabel>(widget, "label_9").text().contains("512"));
+}
+
+void tst_LiteCaptureOptionWidget::signalsMoveAboveInactiveOnesAtTheStart()
+{
+    core->setallCapSignal({switchedOff(single("irq")), bus("data", 8), single("clk2")});
+    LiteCaptureOptionWidget widget(core.get(), netlist.get());
+    QCOMPARE(support::topTexts(treeOf(widget)), QStringList({"data[7:0]", "clk2", "irq"}));
+    QCOMPARE(treeOf(widget).topLevelItem(2)->foreground(0).color(), QColor(Qt::gray));
+}
+
+void tst_LiteCaptureOptionWidget::pageMayDieUnderItsDialogs_data()
+{
+    QTest::addColumn<QString>("slot");
+    QTest::newRow("clock") << "onSelectClock";
+    QTest::newRow("signals") << "onAddDataSignals";
+}
+
+void tst_LiteCaptureOptionWidget::pageMayDieUnderItsDialogs()
+{
+    QFETCH(QString, slot);
+    const QPointer<LiteCaptureOptionWidget> widget = new LiteCaptureOptionWidget(core.get(), netlist.get());
+    support::DialogDriver driver;
+    driver.answerDialog([widget](QDialog &) { delete widget.data(); });
+    QMetaObject::invokeMethod(widget.data(), qPrintable(slot));
+    QVERIFY(!widget);
+    QCOMPARE(driver.dialogs().size(), 1);
 }
 
 QTEST_MAIN(tst_LiteCaptureOptionWidget)
