@@ -100,7 +100,7 @@ std::unique_ptr<NETCATCHER::RtlNetlist> readNetlist(const QCommandLineParser &pa
     const QString &top = builder.sources().top;
     if (!isRead)
         *error = QStringLiteral("the design has errors");
-    else if (!top.isEmpty() && builder.modules().isEmpty())
+    else if (!top.isEmpty() && (builder.modules().isEmpty() || !builder.tops().contains(top)))
         *error = QStringLiteral("there is no module '%1'").arg(top);
     else if (builder.modules().isEmpty())
         *error = QStringLiteral("there is no module in the design");

@@ -27,6 +27,7 @@ static ProgressFunction orNothing(const ProgressFunction &progress)
 
 NetlistBuilder::NetlistBuilder(const DesignSources &sources)
     : m_sources(sources)
+    , m_top(sources.top)
 {
 }
 
@@ -41,16 +42,39 @@ bool NetlistBuilder::analyse(const ProgressFunction &progress)
 {
     m_isAnalysed = true;
     const ProgressFunction report = orNothing(progress);
-    VerilatorEngine engine(m_sources, m_limits, report);
+    if (!runEngine(report))
+        return false;
+    if (!isInterface(m_top))
+        return true;
+    // An interface can be no top. The design is read as if none were set, and callers find another name than theirs.
+    m_top.clear();
+    m_tops.clear();
+    m_modules.clear();
+    m_design = RawDesign();
+    return runEngine(report);
+}
+
+bool NetlistBuilder::isInterface(const QString &name) const
+{
+    return std::any_of(m_design.modules.begin(), m_design.modules.end(), [&name](const RawModule &module) {
+        return module.isInterface && QString::fromUtf8(module.name) == name;
+    });
+}
+
+bool NetlistBuilder::runEngine(const ProgressFunction &progress)
+{
+    DesignSources sources = m_sources;
+    sources.top = m_top;
+    VerilatorEngine engine(sources, m_limits, progress);
     const VerilatorEngine::Outcome outcome = engine.run();
     m_messages = engine.messages();
     m_genvars = engine.genvars();
     if (outcome == VerilatorEngine::Failed ||
-        (outcome == VerilatorEngine::Done && !readResult(engine.xmlPath(), report)))
+        (outcome == VerilatorEngine::Done && !readResult(engine.xmlPath(), progress)))
         return false;
     if (outcome == VerilatorEngine::Done)
         listModules(engine.declaredModules());
-    if (!m_sources.top.isEmpty() && m_tops.isEmpty())
+    if (!m_top.isEmpty() && m_tops.isEmpty())
         m_tops = engine.declaredRoots();
     return true;
 }
@@ -81,7 +105,7 @@ static void sortAs(const QStringList &order, QStringList *names)
 /// With a top set the engine keeps only what the top reaches; `declared` names the rest.
 void NetlistBuilder::listModules(const QStringList &declared)
 {
-    if (!m_sources.top.isEmpty())
+    if (!m_top.isEmpty())
         m_modules = declared;
     for (const RawModule &module : m_design.modules) {
         if (!module.isInterface && !isBlackBox(module))
@@ -95,7 +119,7 @@ void NetlistBuilder::listModules(const QStringList &declared)
     m_tops.removeDuplicates();
     sortAs(declared, &m_modules);
     sortAs(declared, &m_tops);
-    if (!m_sources.top.isEmpty() && m_tops.isEmpty())
+    if (!m_top.isEmpty() && m_tops.isEmpty())
         m_modules.clear();
 }
 
@@ -105,9 +129,9 @@ bool NetlistBuilder::canBeTop(const RawModule &module) const
     if (module.isInterface || isBlackBox(module))
         return false;
     const bool isRoot = m_design.roots.contains(module.key);
-    if (m_sources.top.isEmpty())
+    if (m_top.isEmpty())
         return isRoot;
-    return QString::fromUtf8(module.name) == m_sources.top && (isRoot || module.key == module.name);
+    return QString::fromUtf8(module.name) == m_top && (isRoot || module.key == module.name);
 }
 
 QByteArray NetlistBuilder::topKey() const

@@ -30,9 +30,11 @@ public:
     const DesignSources &sources() const { return m_sources; }
     /// Whether analyse() was called.
     bool isAnalysed() const { return m_isAnalysed; }
-    /// Just the top that was set, when it can be one; else every module that nothing instantiates.
+    /// Just the top that was set, when it can be one; else every module that nothing instantiates. Only these can be
+    /// built, so a top that names an interface gives the netlist of another name.
     const QStringList &tops() const { return m_tops; }
-    /// Every module found, without black boxes; none when the top that was set is not among them.
+    /// Every module found, without black boxes; none when the top that was set is neither among them nor an
+    /// interface.
     const QStringList &modules() const { return m_modules; }
     /// Lines that begin with "ERROR" or "WARNING".
     const QStringList &messages() const { return m_messages; }
@@ -42,11 +44,14 @@ public:
 
 private:
     bool readResult(const QString &xmlPath, const ProgressFunction &progress);
+    bool runEngine(const ProgressFunction &progress);
+    bool isInterface(const QString &name) const;
     void listModules(const QStringList &declared);
     bool canBeTop(const RawModule &module) const;
     QByteArray topKey() const;
 
     const DesignSources m_sources;
+    QString m_top; ///< that the engine is given
     EngineLimits m_limits;
     QStringList m_tops;
     QStringList m_modules;

@@ -25,6 +25,7 @@ private slots:
     void unknownScopeFails();
     void topChoosesAmongSeveral();
     void unknownTopFails();
+    void interfaceAsTopFails();
     void projectIsRead();
     void topOverridesTheProject();
     void fileListIsRead();
@@ -138,6 +139,17 @@ void TestNets::unknownTopFails()
     const CliRun run = runRtlvak({"nets", "--top", "vektors", data("vectors.v")});
     QCOMPARE(run.status, 1);
     QCOMPARE(run.error, QString("rtlvak nets: there is no module 'vektors'\n"));
+}
+
+void TestNets::interfaceAsTopFails()
+{
+    const support::TempDir dir;
+    const QString source =
+        dir.write("bus.sv", "interface bus_if; logic x; endinterface\nmodule a(input x); endmodule\n");
+    const CliRun run = runRtlvak({"nets", "--top", "bus_if", source});
+    QCOMPARE(run.status, 1);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.error, QString("rtlvak nets: there is no module 'bus_if'\n"));
 }
 
 static const char project[] = R"({"vakproj": 1, "top": "second", "includePaths": ["inc"], "defines": ["WIDTH=3"],

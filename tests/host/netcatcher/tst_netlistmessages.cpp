@@ -27,6 +27,7 @@ private slots:
     void escapedModuleNames();
     void blackBoxIsNoTop();
     void interfaceIsNoModule();
+    void interfaceAsTopGivesTheRootsInstead();
     void modulesOutsideOfTheTopAreFoundToo();
     void sourcesWithoutModules_data();
     void sourcesWithoutModules();
@@ -180,6 +181,24 @@ void TestNetlistMessages::interfaceIsNoModule()
     const probe::Result result = build("interface i; logic x; endinterface\nmodule a(input x); endmodule\n");
     QCOMPARE(result.modules, QStringList("a"));
     QCOMPARE(result.tops, QStringList("a"));
+}
+
+void TestNetlistMessages::interfaceAsTopGivesTheRootsInstead()
+{
+    const QByteArray bus("interface i; logic x; endinterface\n");
+    const probe::Result one = build(bus + "module a(input x); i u(); endmodule\n", "i");
+    QCOMPARE(one.errors(), QStringList());
+    QCOMPARE(one.modules, QStringList("a"));
+    QCOMPARE(one.tops, QStringList("a"));
+    QVERIFY(one.netlist);
+    QCOMPARE(one.netlist->topHierarchy()->name(), QString("a"));
+    const probe::Result several = build(bus + twoRoots, "i");
+    QCOMPARE(several.modules, QStringList({"a", "b", "leaf"}));
+    QCOMPARE(several.tops, QStringList({"a", "b"}));
+    QVERIFY(!several.netlist);
+    const probe::Result none = build(bus, "i");
+    QCOMPARE(none.modules, QStringList());
+    QCOMPARE(none.errors(), QStringList());
 }
 
 void TestNetlistMessages::modulesOutsideOfTheTopAreFoundToo()
