@@ -329,19 +329,20 @@ bool TriggerOptionWidget::addExpression(const QString &refusalTitle)
 void TriggerOptionWidget::showExpListContextMenu(QPoint pos)
 {
     Q_UNUSED(pos)
-    const QPointer<QMenu> menu = new QMenu(this);
+    const QPointer<TriggerOptionWidget> self(this);
+    auto *menu = new QMenu(this);
     const QAction *add = menu->addAction(QStringLiteral("Add"));
     QAction *remove = menu->addAction(QStringLiteral("Remove"));
     remove->setEnabled(!ui->listExpression->selectedItems().isEmpty());
     const QAction *chosen = menu->exec(QCursor::pos());
-    if (!menu)
+    if (!self)
         return;
     menu->deleteLater();
     if (chosen == remove)
         removeSelectedExpressions();
     else if (chosen == add)
         addExpression(QStringLiteral("Warning"));
-    if (menu)
+    if (self)
         updateUsage();
 }
 

@@ -30,6 +30,9 @@ private slots:
     void usageTexts_data();
     void usageTexts();
     void usageFollowsEveryChange();
+    void usageFollowsAnEditedUnit();
+    void menuUpdatesTheUsageWhateverWasChosen();
+    void cancelledDoubleClickLeavesTheUsage();
     void usageStaysInStaticMode();
     void applyWritesExpressionsAndMode();
     void applyInDynamicModeDropsGreyExpressionsAndDisablesHighUnits();
@@ -195,6 +198,51 @@ void tst_TriggerOptionWidget::usageFollowsEveryChange()
     driver.chooseFromMenu(QStringLiteral("Remove"));
     bench.askForMenu();
     QCOMPARE(bench.usage(), QStringLiteral("SSRAM Usage : 4/48"));
+}
+
+void tst_TriggerOptionWidget::usageFollowsAnEditedUnit()
+{
+    TriggerBench bench;
+    bench.core.setTriggerMode(VAK::DynamicTrigger);
+    bench.core.setTriggerImplementation(VAK::SsramImplementation);
+    bench.core.setExpression({QStringLiteral("M0")});
+    bench.core.matchUnit(9)->setTriggerPort(bench.core.getTrigger(0));
+    for (int unit = 0; unit < 4; ++unit)
+        bench.core.matchUnit(unit)->setEnabled(true);
+    QCOMPARE(bench.usage(), QStringLiteral("SSRAM Usage : 1/48"));
+    support::DialogDriver driver;
+    driver.answerDialog([](QDialog &dialog) { dialog.accept(); });
+    bench.doubleClickUnit(9);
+    QCOMPARE(bench.usage(), QStringLiteral("SSRAM Usage : 2/48"));
+}
+
+void tst_TriggerOptionWidget::menuUpdatesTheUsageWhateverWasChosen()
+{
+    TriggerBench bench;
+    bench.core.setTriggerMode(VAK::DynamicTrigger);
+    QCOMPARE(bench.usage(), QStringLiteral("BSRAM Usage : 0/12"));
+    support::DialogDriver driver;
+    support::setCapacity({13, 48, 1000});
+    driver.dismissMenu();
+    bench.askForMenu();
+    QCOMPARE(bench.usage(), QStringLiteral("BSRAM Usage : 0/13"));
+    support::setCapacity({14, 48, 1000});
+    driver.chooseFromMenu(QStringLiteral("Add"));
+    cancelDialog(driver);
+    bench.askForMenu();
+    QCOMPARE(bench.usage(), QStringLiteral("BSRAM Usage : 0/14"));
+}
+
+void tst_TriggerOptionWidget::cancelledDoubleClickLeavesTheUsage()
+{
+    TriggerBench bench;
+    bench.core.setTriggerMode(VAK::DynamicTrigger);
+    bench.page();
+    support::setCapacity({13, 48, 1000});
+    support::DialogDriver driver;
+    cancelDialog(driver);
+    bench.doubleClickEmptyPlace();
+    QCOMPARE(bench.usage(), QStringLiteral("BSRAM Usage : 0/12"));
 }
 
 void tst_TriggerOptionWidget::usageStaysInStaticMode()
