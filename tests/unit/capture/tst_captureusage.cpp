@@ -33,6 +33,8 @@ private slots:
     void subscriptionEndsWithThePage();
     void storageChangeUpdatesTheUsage();
     void disablingASignalUpdatesTheUsage();
+    void segmentsAndAmountLeaveTheUsageAlone();
+    void usageIsNewWhenAChosenImplementationIsTold();
 };
 
 void tst_CaptureUsage::initTestCase()
@@ -206,6 +208,27 @@ void tst_CaptureUsage::disablingASignalUpdatesTheUsage()
     bench.tree().onDisable();
     QCOMPARE(support::resourceCalls(QStringLiteral("bsramNumber")).constLast(),
              QStringLiteral("bsramNumberRequiredWithAdjust(1,1024)"));
+}
+
+void tst_CaptureUsage::segmentsAndAmountLeaveTheUsageAlone()
+{
+    CaptureBench bench;
+    bench.page();
+    support::resetResources();
+    bench.segments().setCurrentText(QStringLiteral("2"));
+    bench.amount().setCurrentText(QStringLiteral("16"));
+    QCOMPARE(support::resourceCalls(), QStringList());
+}
+
+void tst_CaptureUsage::usageIsNewWhenAChosenImplementationIsTold()
+{
+    CaptureBench bench;
+    support::setCapacity({10, 48, 1000});
+    bench.core.setStorageSize(4);
+    QString told;
+    connect(&bench.page(), &RTLVAK::CaptureOptionWidget::modified, &bench.page(), [&] { told = bench.usage(); });
+    bench.implementation().setCurrentText(QStringLiteral("REG"));
+    QCOMPARE(told, QStringLiteral("Register Usage : 0/1000"));
 }
 
 QTEST_MAIN(tst_CaptureUsage)

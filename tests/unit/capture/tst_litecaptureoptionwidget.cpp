@@ -92,6 +92,7 @@ private slots:
     void inputRegisterFollowsInitialData_data();
     void inputRegisterFollowsInitialData();
     void uncheckingInitialDataFreesTheInputRegister();
+    void inputRegisterFollowsTheImplementation();
     void modifiedCounts_data();
     void modifiedCounts();
     void choosingAClockTellsTwice();
@@ -396,6 +397,22 @@ void tst_LiteCaptureOptionWidget::uncheckingInitialDataFreesTheInputRegister()
     in<QCheckBox>(widget, "capIniDataCheckBox").setChecked(false);
     QVERIFY(inputRegister.isChecked());
     QVERIFY(inputRegister.isEnabled());
+}
+
+void tst_LiteCaptureOptionWidget::inputRegisterFollowsTheImplementation()
+{
+    core->setCaptureAmount(2);
+    core->setCaptureInitialData(true);
+    LiteCaptureOptionWidget widget(core.get(), netlist.get());
+    const QCheckBox &inputRegister = in<QCheckBox>(widget, "enableInputRegCheckBox");
+    for (const char *text : {"SSRAM", "BSRAM", "REG"}) {
+        in<QComboBox>(widget, "implementation").setCurrentText(text);
+        QCOMPARE(inputRegister.isChecked(), qstrcmp(text, "BSRAM") == 0);
+        QVERIFY(!inputRegister.isEnabled());
+    }
+    in<QCheckBox>(widget, "capIniDataCheckBox").setChecked(false);
+    in<QComboBox>(widget, "implementation").setCurrentText("BSRAM");
+    QVERIFY(!inputRegister.isChecked());
 }
 
 using Action = std::function<void(LiteCaptureOptionWidget &)>;
