@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScopeGuard>
 #include <QtTest>
 
@@ -110,7 +111,10 @@ void TestViewReentry::whatASearchHasChosenIsMarkedWhenItIsGone()
 static void openPort(const ViewFixture &fixture, int number)
 {
     auto &ports = child<QTreeWidget>(fixture.page(0), "treeTrigger");
-    emit ports.itemDoubleClicked(ports.topLevelItem(number), 0);
+    const QPoint place = ports.visualItemRect(ports.topLevelItem(number)).center();
+    QTest::mouseClick(ports.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QMouseEvent twice(QEvent::MouseButtonDblClick, place, Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(ports.viewport(), &twice); // the tree may be gone when this returns
 }
 
 void TestViewReentry::anOpenPortGoesOnInTheNewNetlist()
