@@ -36,6 +36,7 @@ private slots:
     void aFileWithoutCoresOpensWithOneNewCoreAndIsModified();
     void openLeavesTheShortTitleAlone();
     void openFollowsTheNewFileOnly();
+    void openingTheFirstFileLeavesNoEmptyPath();
 
     void firstEditMarksTheDocument();
     void aSecondChangeKeepsTheTitleWithASingleStar();
@@ -245,6 +246,26 @@ void TestViewLifecycle::openFollowsTheNewFileOnly()
     QTRY_COMPARE(fixture.banners().size(), 1);
     QCOMPARE(fixture.bannerTexts().first(), "The file '" + fixture.path + "' changed on disk.\nDo you want to reload?");
     QCOMPARE(fixture.items(), fixture.titles(1));
+}
+
+static QStringList watcherWarnings;
+
+static void keepWatcherWarning(QtMsgType type, const QMessageLogContext &, const QString &line)
+{
+    if (type == QtWarningMsg && line.contains("QFileSystemWatcher"))
+        watcherWarnings += line;
+}
+
+/// The watcher warns about an empty path that it is to leave or to follow.
+void TestViewLifecycle::openingTheFirstFileLeavesNoEmptyPath()
+{
+    ViewFixture fixture;
+    watcherWarnings.clear();
+    const QtMessageHandler usual = qInstallMessageHandler(keepWatcherWarning);
+    const bool opened = fixture.open();
+    qInstallMessageHandler(usual);
+    QVERIFY(opened);
+    QCOMPARE(watcherWarnings, QStringList());
 }
 
 void TestViewLifecycle::firstEditMarksTheDocument()

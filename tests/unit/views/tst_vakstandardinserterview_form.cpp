@@ -135,8 +135,11 @@ void TestStandardViewForm::theViewDiesInOrder()
     connect(&fixture.page(0), &QObject::destroyed, &log,
             [&log, handler] { log.note(fakes::subscriptionsOf(handler).isEmpty() ? "unsubscribed" : "subscribed"); });
     fixture.driver.actOnMenu([&note](QMenu &menu) {
-        for (QAction *action : menu.actions())
+        for (QAction *action : menu.actions()) {
+            QCOMPARE(action->parent()->metaObject()->className(),
+                     "RTLVAK::private_impl::VakStandardInserterViewPrivate");
             note(action, action->text());
+        }
         menu.close();
     });
     fixture.contextMenu(0);
