@@ -243,6 +243,8 @@ void InserterDocument::onBannerCancel(QWidget *banner)
 
 void InserterDocument::onBannerKeep(QWidget *banner)
 {
+    if (QFileInfo::exists(path()))
+        watchFile(); // it came back while the question stood
     removeBanner(banner);
     fileChangeFlag() = false;
 }

@@ -39,6 +39,7 @@ private slots:
     void changeOfTheFileIsAskedAboutOnce();
     void everyReplacementIsNoticed();
     void keptFileIsWrittenAnewAndFollowedAgain();
+    void keptFileThatCameBackIsFollowedAgain();
     void removedFileClosesWithoutAQuestion();
     void sourceWithAnotherPortAndWithoutANet();
     void misspeltTopClosesTheAnalyzerOnly();
@@ -109,6 +110,10 @@ void TestOutsideChanges::changeOfTheFileIsAskedAboutOnce()
     QTest::qWait(delayMs + 100); // what was noticed until now may not ask again
     QVERIFY(banners().isEmpty());
     QCOMPARE(tabs(), QStringList{"a.rvk"});
+    if (exists) {
+        runProgram("touch a.rvk");
+        QTRY_COMPARE(banners(), QStringList{changed()});
+    }
 }
 
 void TestOutsideChanges::everyReplacementIsNoticed()
@@ -140,6 +145,18 @@ void TestOutsideChanges::keptFileIsWrittenAnewAndFollowedAgain()
     QVERIFY(isEdited());
     trigger("actionSave");
     QCOMPARE(dir->read("a.rvk"), analyzerFile().replace("rising", "falling"));
+    runProgram("touch a.rvk");
+    QTRY_COMPARE(banners(), QStringList{changed()});
+}
+
+void TestOutsideChanges::keptFileThatCameBackIsFollowedAgain()
+{
+    openAnalyzer();
+    runProgram("mv a.rvk away");
+    QTRY_COMPARE(banners(), QStringList{removed()});
+    runProgram("mv away a.rvk");
+    answerBanner("btnA");
+    QVERIFY(banners().isEmpty());
     runProgram("touch a.rvk");
     QTRY_COMPARE(banners(), QStringList{changed()});
 }
