@@ -23,9 +23,9 @@ struct SignalMerge
 bool isSameSignal(const VAK::SignalItem &a, const VAK::SignalItem &b);
 
 /// Sorts `incoming` into what is new and what `existing` has already. Records that are not enabled are dropped, and of
-/// several same ones the first counts. A record that is there already is not added; the existing one is present and
-/// enabled again and keeps its names, order and active state. A new group whose name another group bears gets the next
-/// free `group_N`. A net stays a signal of its own beside a bus that it is a bit of.
+/// several same ones the first counts. A record that is there already is not added; the existing one is present
+/// again, as usable as the one asked for, and keeps its names, order and active state. A new group whose name another
+/// group bears gets the next free `group_N`. A net stays a signal of its own beside a bus that it is a bit of.
 SignalMerge mergeSignals(const QList<VAK::SignalItem> &existing, const QList<VAK::SignalItem> &incoming);
 
 /// The records of `incoming` that are new beside `chosen`, in their order, enabled or not; records of `chosen` that

@@ -22,6 +22,8 @@ private slots:
     void reselection_data();
     void reselection();
     void triggerOffersShadowRamOnlyWhereThereIsSome();
+    void codesOfTexts();
+    void inputRegisterOfEachImplementation();
 };
 
 static const QStringList B{QStringLiteral("BSRAM")};
@@ -137,6 +139,32 @@ void tst_ImplementationList::triggerOffersShadowRamOnlyWhereThereIsSome()
 {
     QCOMPARE(RTLVAK::triggerImplementations(true), BSR);
     QCOMPARE(RTLVAK::triggerImplementations(false), BR);
+}
+
+void tst_ImplementationList::codesOfTexts()
+{
+    const QStringList texts{QStringLiteral("BSRAM"), QStringLiteral("REG"), QStringLiteral("SSRAM"),
+                            QStringLiteral("Logic"), QString()};
+    QList<int> standard;
+    QList<int> lite;
+    for (const QString &text : texts) {
+        standard.append(RTLVAK::implementationCode(text));
+        lite.append(RTLVAK::liteImplementationCode(text));
+    }
+    QCOMPARE(standard, QList<int>({0, 1, 2, 0, 0}));
+    QCOMPARE(lite, QList<int>({0, 1, 2, 1, 1}));
+    for (int code = 0; code < 3; ++code)
+        QCOMPARE(RTLVAK::implementationName(code), texts.at(code));
+    QCOMPARE(RTLVAK::implementationName(3), QString());
+}
+
+void tst_ImplementationList::inputRegisterOfEachImplementation()
+{
+    QCOMPARE(RTLVAK::inputRegisterFor(QStringLiteral("BSRAM")), std::optional<bool>(true));
+    QCOMPARE(RTLVAK::inputRegisterFor(QStringLiteral("REG")), std::optional<bool>(false));
+    QCOMPARE(RTLVAK::inputRegisterFor(QStringLiteral("SSRAM")), std::optional<bool>(false));
+    QCOMPARE(RTLVAK::inputRegisterFor(QString()), std::optional<bool>());
+    QCOMPARE(RTLVAK::inputRegisterFor(QStringLiteral("Logic")), std::optional<bool>());
 }
 
 QTEST_APPLESS_MAIN(tst_ImplementationList)
