@@ -206,6 +206,16 @@ std::optional<VAK::SignalItem> signalOfRow(const QTreeWidgetItem *row)
     return carried.value<VAK::SignalItem>();
 }
 
+QList<VAK::SignalItem> signalsOfRows(const QTreeWidget *tree)
+{
+    QList<VAK::SignalItem> records;
+    for (int i = 0; i < tree->topLevelItemCount(); ++i) {
+        if (const auto record = signalOfRow(tree->topLevelItem(i)))
+            records.append(*record);
+    }
+    return records;
+}
+
 void updateSignalRow(QTreeWidgetItem *row, const VAK::SignalItem &record)
 {
     if (auto *signalRow = dynamic_cast<SignalRow *>(row))

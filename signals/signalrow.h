@@ -33,6 +33,9 @@ VAKINS_EXPORT const VAK::SignalItem *recordOfRow(const QTreeWidgetItem *row);
 /// A copy of the record that a row carries in its user-role data; nothing for rows that carry none.
 VAKINS_EXPORT std::optional<VAK::SignalItem> signalOfRow(const QTreeWidgetItem *row);
 
+/// Copies of the records that the top-level rows carry, top to bottom.
+VAKINS_EXPORT QList<VAK::SignalItem> signalsOfRows(const QTreeWidget *tree);
+
 /// Gives a row of makeSignalRow() another record, in place: selection, current row and expansion stay.
 VAKINS_EXPORT void updateSignalRow(QTreeWidgetItem *row, const VAK::SignalItem &record);
 

@@ -50,12 +50,7 @@ void signalTreeWidget::insertSignals(int row, const QList<VAK::SignalItem> &reco
 
 QList<VAK::SignalItem> signalTreeWidget::signalItems() const
 {
-    QList<VAK::SignalItem> records;
-    for (int i = 0; i < topLevelItemCount(); ++i) {
-        if (const auto record = signalOfRow(topLevelItem(i)))
-            records.append(*record);
-    }
-    return records;
+    return signalsOfRows(this);
 }
 
 void signalTreeWidget::updatePresentation()

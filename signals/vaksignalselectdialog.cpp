@@ -106,12 +106,7 @@ void VakSignalSelectDialog::passOn(NETCATCHER::RtlNetlist *newNetlist, const QWi
 
 QList<VAK::SignalItem> VakSignalSelectDialog::chosenSignals() const
 {
-    QList<VAK::SignalItem> records;
-    for (int i = 0; i < ui->treeWidgetAddSignal->topLevelItemCount(); ++i) {
-        if (const auto record = signalOfRow(ui->treeWidgetAddSignal->topLevelItem(i)))
-            records.append(*record);
-    }
-    return records;
+    return signalsOfRows(ui->treeWidgetAddSignal);
 }
 
 QList<VAK::SignalItem> VakSignalSelectDialog::getSignals(NETCATCHER::RtlNetlist *netlist, QWidget *parent)

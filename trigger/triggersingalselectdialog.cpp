@@ -69,12 +69,7 @@ void TriggerSingalSelectDialog::onStateChanged()
 
 QList<VAK::SignalItem> TriggerSingalSelectDialog::chosenSignals() const
 {
-    QList<VAK::SignalItem> chosen;
-    for (int i = 0; i < preview->topLevelItemCount(); ++i) {
-        if (const auto signal = signalOfRow(preview->topLevelItem(i)))
-            chosen.append(*signal);
-    }
-    return chosen;
+    return signalsOfRows(preview);
 }
 
 QList<VAK::SignalItem> TriggerSingalSelectDialog::selectSignals(const QList<VAK::TriggerPort *> &ports, QWidget *parent)
