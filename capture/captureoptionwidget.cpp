@@ -132,6 +132,7 @@ void CaptureOptionWidget::loadSignals()
 
 void CaptureOptionWidget::applyToCore()
 {
+    ui->treeWidgetCapSigs->finishEdit(); // a name that is still being typed counts
     core->setSampleClock(ui->editSampleClock->text());
     core->setSampleEdge(ui->radioButtonRising->isChecked() ? VAK::RisingEdge : VAK::FallingEdge);
     applySizes();

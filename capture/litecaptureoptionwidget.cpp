@@ -98,6 +98,7 @@ void LiteCaptureOptionWidget::selectStoredImplementation()
 
 void LiteCaptureOptionWidget::applyToCore()
 {
+    ui->treeWidgetSignal->finishEdit(); // a name that is still being typed counts
     core->setSampleClock(ui->editSampleClock->text());
     core->setSampleEdge(ui->radioButtonRising->isChecked() ? VAK::RisingEdge : VAK::FallingEdge);
     core->setEnableInputRegister(ui->enableInputRegCheckBox->isChecked());

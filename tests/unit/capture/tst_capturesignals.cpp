@@ -40,6 +40,7 @@ private slots:
     void removingIsImpossibleWhileABusMemberIsSelected();
     void removeDeletesTheSelectedSignals();
     void capturedAreEnabledAndActiveSignals();
+    void nameStillBeingTypedIsApplied();
     void treeLooksAsItShould();
     void missingSignalsAreRedAndInactiveOnesGrey();
     void nullNetlistIsTolerated();
@@ -280,6 +281,18 @@ void tst_CaptureSignals::capturedAreEnabledAndActiveSignals()
     bench.page().applyToCore();
     QCOMPARE(bench.core.getallCapSignal(), all);
     QCOMPARE(bench.core.getDataSignal(), QList<VAK::SignalItem>({all.at(0), all.at(3)}));
+}
+
+void tst_CaptureSignals::nameStillBeingTypedIsApplied()
+{
+    CaptureBench bench;
+    bench.core.setallCapSignal({single(QStringLiteral("clk"))});
+    RTLVAK::signalTreeWidget &tree = bench.tree();
+    tree.setCurrentItem(tree.topLevelItem(0));
+    tree.onChangeName();
+    tree.findChild<QLineEdit *>()->setText(QStringLiteral("shown so"));
+    bench.page().applyToCore();
+    QCOMPARE(bench.core.getallCapSignal().first().displayName, QStringLiteral("shown so"));
 }
 
 void tst_CaptureSignals::treeLooksAsItShould()
