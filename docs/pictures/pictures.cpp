@@ -1,25 +1,33 @@
 // SPDX-FileCopyrightText: 2026 The RtlVakIns authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Renders the pictures of a core's page and of the dialogs of its trigger from the example into a folder:
-// render_pictures EXAMPLE_FOLDER TARGET_FOLDER
+// Renders the pictures of a core's page, of the dialogs of its trigger and of the search from the example into a
+// folder: render_pictures EXAMPLE_FOLDER TARGET_FOLDER
 
 #include "capture/aooptionwidget.h"
 #include "hostlibs/ovte/projectengine.h"
+#include "signals/vaksignalselectdialog.h"
 #include "trigger/muexpressiondialog.h"
 #include "trigger/triggerportdialog.h"
 #include "trigger/triggersingalselectdialog.h"
 #include "workbench/appearance.h"
 
+#include <OVTE/designmanager.h>
+#include <OVTE/taskengine.h>
 #include <VakUtils/aocore.h>
 #include <VakUtils/matchunitdialog.h>
 #include <VakUtils/vakfile.h>
+#include <netcatcher/netcatcher.h>
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTreeWidget>
+
+#include <memory>
 
 static void render(QWidget &widget, const QDir &folder, const char *name)
 {
@@ -58,6 +66,32 @@ static void renderDialogs(VAK::AoCore &core, const QDir &folder)
     render(expression, folder, "expression.png");
 }
 
+static std::unique_ptr<NETCATCHER::RtlNetlist> netlistOfProject()
+{
+    QMap<QString, QVariant> info = TE::TaskEngine::instance()->designManager()->getSourceFileInfo();
+    QStringList tops, modules, messages, paths;
+    NETCATCHER::catchRtlModules(tops, modules, messages, info, nullptr);
+    NETCATCHER::RtlNetlist *netlist = nullptr;
+    NETCATCHER::catchRtlNetsWithProgressDialog(&netlist, paths, nullptr);
+    return std::unique_ptr<NETCATCHER::RtlNetlist>(netlist);
+}
+
+static void renderSearch(const QDir &folder)
+{
+    const std::unique_ptr<NETCATCHER::RtlNetlist> netlist = netlistOfProject();
+    RTLVAK::VakSignalSelectDialog dialog(netlist.get());
+    dialog.show();
+    dialog.resize(640, 520);
+    dialog.findChild<QRadioButton *>(QStringLiteral("radioButtonWildcard"))->click();
+    dialog.findChild<QLineEdit *>(QStringLiteral("lineEditName"))->setText(QStringLiteral("u_uart/*"));
+    dialog.findChild<QPushButton *>(QStringLiteral("pushButtonSearch"))->click();
+    auto *results = dialog.findChild<QTreeWidget *>(QStringLiteral("treeWidget"));
+    for (int row : {1, 3, 4})
+        results->topLevelItem(row)->setSelected(true);
+    dialog.findChild<QAbstractButton *>(QStringLiteral("btnAdd"))->click();
+    render(dialog, folder, "search.png");
+}
+
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
@@ -74,6 +108,7 @@ int main(int argc, char *argv[])
         qFatal("%s", qPrintable(error));
     renderPage(*cores.at(1), QDir(QString::fromLocal8Bit(argv[2])));
     renderDialogs(*cores.at(1), QDir(QString::fromLocal8Bit(argv[2])));
+    renderSearch(QDir(QString::fromLocal8Bit(argv[2])));
     qDeleteAll(cores);
     return 0;
 }
