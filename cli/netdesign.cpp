@@ -20,6 +20,7 @@ static const QString topOption = QStringLiteral("top");
 static const QString includeOption = QStringLiteral("I");
 static const QString defineOption = QStringLiteral("D");
 static const QString standardOption = QStringLiteral("standard");
+static const QString noCacheOption = QStringLiteral("no-cache");
 
 void NetDesignOptions::addTo(QCommandLineParser &parser)
 {
@@ -32,6 +33,8 @@ void NetDesignOptions::addTo(QCommandLineParser &parser)
                       QStringLiteral("Language standard of Verilog files: %1.")
                           .arg(TE::verilogStandards().join(QStringLiteral(", "))),
                       QStringLiteral("standard")});
+    parser.addOption({noCacheOption, QStringLiteral("Read the design afresh, and do not keep the result for the next "
+                                                    "time.")});
 }
 
 static QMap<QString, QVariant> sourcesInfo(const QStringList &paths)
@@ -93,6 +96,7 @@ std::unique_ptr<NETCATCHER::RtlNetlist> readNetlist(const QCommandLineParser &pa
     if (!describe(parser, &info, error))
         return nullptr;
     NETCATCHER::NetlistBuilder builder(NETCATCHER::DesignSources::fromSourceInfo(info));
+    builder.setCached(!parser.isSet(noCacheOption));
     const bool isRead = builder.analyse();
     for (const QString &line : builder.messages())
         standardError() << line << '\n';

@@ -159,4 +159,32 @@ void ModuleDef::squeeze()
     children.shrink_to_fit();
 }
 
+std::vector<quint64> instanceCounts(const ModuleTable &table)
+{
+    std::vector<quint64> sizes(table.modules.size(), 0);
+    std::vector<bool> finished(table.modules.size(), false);
+    std::vector<std::pair<quint32, std::size_t>> path{{table.top, 0}};
+    sizes[table.top] = 1;
+    while (!path.empty()) {
+        const quint32 module = path.back().first;
+        const auto &children = table.modules[module].children;
+        if (path.back().second == children.size()) {
+            finished[module] = true;
+            path.pop_back();
+            continue;
+        }
+        const quint32 child = children[path.back().second].module;
+        if (finished[child]) {
+            sizes[module] = std::min(sizes[module] + sizes[child], maxInstances + 1);
+            ++path.back().second;
+        } else if (sizes[child] != 0) {
+            return {};
+        } else {
+            sizes[child] = 1;
+            path.emplace_back(child, 0);
+        }
+    }
+    return sizes;
+}
+
 } // namespace NETCATCHER

@@ -59,6 +59,10 @@ public:
     quint32 busCount() const { return quint32(buses.size()); }
     quint32 bitCount() const { return bits; }
 
+    /// Names without their ranges, in the module's own memory.
+    QByteArray singleText(quint32 index) const;
+    QByteArray busText(quint32 index) const;
+
     QString singleName(quint32 index) const;
     bool isSingleUnusable(quint32 index) const;
     /// The bus's name with its range: `pc[31:0]`.
@@ -77,9 +81,6 @@ public:
     void squeeze();
 
 private:
-    QByteArray singleText(quint32 index) const;
-    QByteArray busText(quint32 index) const;
-
     QByteArray singleArena;
     QByteArray busArena;
     std::vector<quint32> singleEnds; ///< end in the arena, shifted by one; the lowest bit marks the unusable
@@ -95,6 +96,12 @@ struct ModuleTable
     std::vector<ModuleDef> modules;
     quint32 top = 0;
 };
+
+/// The number of instances that each module brings, itself included; saturates above maxInstances instead of
+/// overflowing. Empty when a module holds itself, which no elaborated design does but a damaged one might say.
+std::vector<quint64> instanceCounts(const ModuleTable &table);
+
+constexpr quint64 maxInstances = 100u * 1000 * 1000;
 
 /// The widest bus that is taken apart into bits.
 constexpr quint32 maxBusBits = 1u << 20;

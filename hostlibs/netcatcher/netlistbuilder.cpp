@@ -5,7 +5,9 @@
 
 #include "blackboxes.h"
 #include "designexpansion.h"
+#include "netlistcache.h"
 #include "netstore.h"
+#include "readmanifest.h"
 #include "verilatorengine.h"
 #include "verilatorxml.h"
 
@@ -25,6 +27,13 @@ static ProgressFunction orNothing(const ProgressFunction &progress)
     return progress ? progress : [](const BuildProgress &) {};
 }
 
+static const QString *firstError(const QStringList &messages)
+{
+    const auto isError = [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); };
+    const auto found = std::find_if(messages.cbegin(), messages.cend(), isError);
+    return found == messages.cend() ? nullptr : &*found;
+}
+
 NetlistBuilder::NetlistBuilder(const DesignSources &sources)
     : m_sources(sources)
     , m_top(sources.top)
@@ -42,16 +51,40 @@ bool NetlistBuilder::analyse(const ProgressFunction &progress)
 {
     m_isAnalysed = true;
     const ProgressFunction report = orNothing(progress);
-    if (!runEngine(report))
-        return false;
-    if (!isInterface(m_top))
+    const auto hashing = [&report] { report({BuildProgress::ReadingSources, 0, 0}); };
+    ReadManifest manifest(hashing);
+    const NetlistCache cache;
+    // Without the engine nothing is found: whether a design can be opened should not depend on what was opened before.
+    const QString engine = m_isCached ? VerilatorEngine::program() : QString();
+    if (engine.isEmpty() || !cache.makeFolder()) {
+        manifest.giveUp();
+        return readSources(report, manifest);
+    }
+    const QByteArray key = NetlistCache::keyOf(m_sources, engine);
+    if (std::optional<ReadResult> known = cache.find(key, hashing)) {
+        m_read = std::move(*known);
         return true;
-    // An interface can be no top. The design is read as if none were set, and callers find another name than theirs.
-    m_top.clear();
-    m_tops.clear();
-    m_modules.clear();
-    m_design = RawDesign();
-    return runEngine(report);
+    }
+    if (!readSources(report, manifest))
+        return false;
+    cache.store(key, manifest, m_read);
+    return true;
+}
+
+bool NetlistBuilder::readSources(const ProgressFunction &progress, ReadManifest &manifest)
+{
+    if (!runEngine(progress, manifest))
+        return false;
+    if (isInterface(m_top)) {
+        // An interface can be no top. The design is read as if none were set; callers find another name than theirs.
+        m_top.clear();
+        m_read = ReadResult();
+        m_design = RawDesign();
+        if (!runEngine(progress, manifest))
+            return false;
+    }
+    expandTop(progress);
+    return true;
 }
 
 bool NetlistBuilder::isInterface(const QString &name) const
@@ -61,21 +94,23 @@ bool NetlistBuilder::isInterface(const QString &name) const
     });
 }
 
-bool NetlistBuilder::runEngine(const ProgressFunction &progress)
+bool NetlistBuilder::runEngine(const ProgressFunction &progress, ReadManifest &manifest)
 {
     DesignSources sources = m_sources;
     sources.top = m_top;
-    VerilatorEngine engine(sources, m_limits, progress);
+    VerilatorEngine engine(sources, m_limits, progress, manifest);
     const VerilatorEngine::Outcome outcome = engine.run();
-    m_messages = engine.messages();
+    m_read.messages = engine.messages();
     m_genvars = engine.genvars();
     if (outcome == VerilatorEngine::Failed ||
         (outcome == VerilatorEngine::Done && !readResult(engine.xmlPath(), progress)))
         return false;
     if (outcome == VerilatorEngine::Done)
         listModules(engine.declaredModules());
-    if (!m_top.isEmpty() && m_tops.isEmpty())
-        m_tops = engine.declaredRoots();
+    if (outcome != VerilatorEngine::Done || firstError(m_read.messages) || !engine.hasReadOnlyGiven(m_design.files))
+        manifest.giveUp();
+    if (!m_top.isEmpty() && m_read.tops.isEmpty())
+        m_read.tops = engine.declaredRoots();
     return true;
 }
 
@@ -87,7 +122,7 @@ bool NetlistBuilder::readResult(const QString &xmlPath, const ProgressFunction &
     if (file.open(QIODevice::ReadOnly) && readVerilatorXml(file, m_design, report, &error))
         return true;
     m_design = RawDesign();
-    m_messages.append(QStringLiteral("ERROR: The result of the Verilog engine cannot be read: %1").arg(error));
+    m_read.messages.append(QStringLiteral("ERROR: The result of the Verilog engine cannot be read: %1").arg(error));
     return false;
 }
 
@@ -106,21 +141,21 @@ static void sortAs(const QStringList &order, QStringList *names)
 void NetlistBuilder::listModules(const QStringList &declared)
 {
     if (!m_top.isEmpty())
-        m_modules = declared;
+        m_read.modules = declared;
     for (const RawModule &module : m_design.modules) {
         if (!module.isInterface && !isBlackBox(module))
-            m_modules.append(QString::fromUtf8(module.name));
+            m_read.modules.append(QString::fromUtf8(module.name));
     }
-    m_modules.removeDuplicates();
+    m_read.modules.removeDuplicates();
     for (const RawModule &module : m_design.modules) {
         if (canBeTop(module))
-            m_tops.append(QString::fromUtf8(module.name));
+            m_read.tops.append(QString::fromUtf8(module.name));
     }
-    m_tops.removeDuplicates();
-    sortAs(declared, &m_modules);
-    sortAs(declared, &m_tops);
-    if (!m_top.isEmpty() && m_tops.isEmpty())
-        m_modules.clear();
+    m_read.tops.removeDuplicates();
+    sortAs(declared, &m_read.modules);
+    sortAs(declared, &m_read.tops);
+    if (!m_top.isEmpty() && m_read.tops.isEmpty())
+        m_read.modules.clear();
 }
 
 /// With a top set, the module of that name, also when something instantiates it; else every root.
@@ -141,26 +176,41 @@ QByteArray NetlistBuilder::topKey() const
     return found == m_design.modules.end() ? QByteArray() : found->key;
 }
 
+/// What the netlist needs of the design, which is dropped; the rest would be in memory beside the netlist.
+void NetlistBuilder::expandTop(const ProgressFunction &progress)
+{
+    const QByteArray key = topKey();
+    if (m_read.tops.size() == 1 && !key.isEmpty()) {
+        progress({BuildProgress::BuildingNetlist, 0, 0});
+        ExpansionOptions options;
+        options.top = key;
+        options.isBlackBox = isBlackBox;
+        options.genvars = m_genvars;
+        m_read.table = expandDesign(m_design, options, &m_read.tableWarnings);
+    }
+    m_design = RawDesign();
+}
+
+static QString reasonForNoTable(const ReadResult &read)
+{
+    if (const QString *error = firstError(read.messages))
+        return *error;
+    if (read.tops.size() > 1)
+        return QStringLiteral("The design has several top modules: %1.").arg(read.tops.join(QStringLiteral(", ")));
+    return QStringLiteral("The design has no top module.");
+}
+
 std::unique_ptr<RtlNetlist> NetlistBuilder::build(QString *error, const ProgressFunction &progress)
 {
-    if (m_tops.size() != 1 || topKey().isEmpty()) {
-        const auto isError = [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); };
-        const auto first = std::find_if(m_messages.cbegin(), m_messages.cend(), isError);
-        if (first != m_messages.cend())
-            *error = *first;
-        else if (m_tops.size() > 1)
-            *error = QStringLiteral("The design has several top modules: %1.").arg(m_tops.join(QStringLiteral(", ")));
-        else
-            *error = QStringLiteral("The design has no top module.");
+    if (!m_read.table) {
+        *error = reasonForNoTable(m_read);
         return nullptr;
     }
     orNothing(progress)({BuildProgress::BuildingNetlist, 0, 0});
-    ExpansionOptions options;
-    options.top = topKey();
-    options.isBlackBox = isBlackBox;
-    options.genvars = m_genvars;
+    m_read.messages += m_read.tableWarnings;
     auto data = std::make_unique<RtlNetlist::Data>();
-    data->store = NetStore::build(expandDesign(m_design, options, &m_messages), error);
+    data->store = NetStore::build(std::move(*m_read.table), error);
+    m_read.table.reset();
     if (!data->store)
         return nullptr;
     return std::make_unique<RtlNetlist>(std::move(data));

@@ -7,6 +7,7 @@
 #include "designsources.h"
 #include "engineprocess.h"
 #include "rawdesign.h"
+#include "readresult.h"
 
 #include <netcatcher/rtlnetlist.h>
 
@@ -14,8 +15,11 @@
 
 namespace NETCATCHER {
 
-/// Builds the netlist of a design, without a screen: analyse() runs the engine once, build() makes the netlist from its
-/// result. Both block while they work and call `progress` often enough to keep a display alive.
+class ReadManifest;
+
+/// Builds the netlist of a design, without a screen: analyse() runs the engine, or finds what it said when the same
+/// design was read before; build() makes the netlist from that. Both block while they work and call `progress` often
+/// enough to keep a display alive.
 class NetlistBuilder
 {
 public:
@@ -23,6 +27,8 @@ public:
     ~NetlistBuilder();
 
     void setLimits(const EngineLimits &limits);
+    /// Whether results of earlier reads may be used, and this one be kept; they are by default.
+    void setCached(bool isCached) { m_isCached = isCached; }
 
     /// Reads the sources. False when the design has errors; messages() tells them.
     bool analyse(const ProgressFunction &progress = {});
@@ -32,33 +38,35 @@ public:
     bool isAnalysed() const { return m_isAnalysed; }
     /// Just the top that was set, when it can be one; else every module that nothing instantiates. Only these can be
     /// built, so a top that names an interface gives the netlist of another name.
-    const QStringList &tops() const { return m_tops; }
+    const QStringList &tops() const { return m_read.tops; }
     /// Every module found, without black boxes; none when the top that was set is neither among them nor an
     /// interface.
-    const QStringList &modules() const { return m_modules; }
+    const QStringList &modules() const { return m_read.modules; }
     /// Lines that begin with "ERROR" or "WARNING".
-    const QStringList &messages() const { return m_messages; }
+    const QStringList &messages() const { return m_read.messages; }
 
-    /// The netlist below the only top; null, with `error` set, when there is none.
+    /// The netlist below the only top; null, with `error` set, when there is none. It takes the result along, so that
+    /// there is none the second time.
     std::unique_ptr<RtlNetlist> build(QString *error, const ProgressFunction &progress = {});
 
 private:
+    bool readSources(const ProgressFunction &progress, ReadManifest &manifest);
     bool readResult(const QString &xmlPath, const ProgressFunction &progress);
-    bool runEngine(const ProgressFunction &progress);
+    bool runEngine(const ProgressFunction &progress, ReadManifest &manifest);
     bool isInterface(const QString &name) const;
     void listModules(const QStringList &declared);
     bool canBeTop(const RawModule &module) const;
     QByteArray topKey() const;
+    void expandTop(const ProgressFunction &progress);
 
     const DesignSources m_sources;
     QString m_top; ///< that the engine is given
     EngineLimits m_limits;
-    QStringList m_tops;
-    QStringList m_modules;
-    QStringList m_messages;
+    ReadResult m_read;
     RawDesign m_design;
     QSet<QByteArray> m_genvars;
     bool m_isAnalysed = false;
+    bool m_isCached = true;
 };
 
 } // namespace NETCATCHER

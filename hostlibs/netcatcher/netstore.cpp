@@ -10,7 +10,6 @@ namespace NETCATCHER {
 // A handle is the instance in its upper half and a number in its lower half: of a single net, or of a bit with this
 // flag.
 constexpr quint64 bitFlag = 0x80000000u;
-constexpr quint64 maxInstances = 100u * 1000 * 1000;
 constexpr quint64 maxHandles = 1ull << 32;
 
 static quint64 makeHandle(quint32 node, quint64 local)
@@ -70,39 +69,9 @@ std::unique_ptr<NetStore> NetStore::build(ModuleTable table, QString *error)
     return store;
 }
 
-/// The number of instances that each module brings, itself included; saturates instead of overflowing. Empty when a
-/// module holds itself, which no elaborated design does but a damaged engine output might say.
-static std::vector<quint64> subtreeSizes(const ModuleTable &table)
-{
-    std::vector<quint64> sizes(table.modules.size(), 0);
-    std::vector<bool> finished(table.modules.size(), false);
-    std::vector<std::pair<quint32, std::size_t>> path{{table.top, 0}};
-    sizes[table.top] = 1;
-    while (!path.empty()) {
-        const quint32 module = path.back().first;
-        const auto &children = table.modules[module].children;
-        if (path.back().second == children.size()) {
-            finished[module] = true;
-            path.pop_back();
-            continue;
-        }
-        const quint32 child = children[path.back().second].module;
-        if (finished[child]) {
-            sizes[module] = std::min(sizes[module] + sizes[child], maxInstances + 1);
-            ++path.back().second;
-        } else if (sizes[child] != 0) {
-            return {};
-        } else {
-            sizes[child] = 1;
-            path.emplace_back(child, 0);
-        }
-    }
-    return sizes;
-}
-
 bool NetStore::expand(QString *error)
 {
-    const std::vector<quint64> sizes = subtreeSizes(m_table);
+    const std::vector<quint64> sizes = instanceCounts(m_table);
     if (sizes.empty()) {
         *error = QStringLiteral("The design instantiates a module inside itself.");
         return false;

@@ -3,6 +3,8 @@
 
 #include "privatefolder.h"
 
+#include "readmanifest.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -21,8 +23,9 @@ static QString plainTemporaryFolder()
     return plain.match(path).hasMatch() ? path : QStringLiteral("/tmp");
 }
 
-PrivateFolder::PrivateFolder()
-    : m_folder(plainTemporaryFolder() + QStringLiteral("/rtlvak-XXXXXX"))
+PrivateFolder::PrivateFolder(ReadManifest &manifest)
+    : m_manifest(manifest)
+    , m_folder(plainTemporaryFolder() + QStringLiteral("/rtlvak-XXXXXX"))
 {
 }
 
@@ -88,7 +91,10 @@ std::optional<QString> PrivateFolder::addIncludeFrom(const QString &userFolder, 
 {
     const QString plainName = QDir::cleanPath(plainFolder + QLatin1Char('/') + name);
     const QString original = QDir::cleanPath(userFolder + QLatin1Char('/') + name);
-    if (!plainName.startsWith(QLatin1String("vak")) || !QFileInfo(original).isFile())
+    if (!plainName.startsWith(QLatin1String("vak")))
+        return {};
+    m_manifest.look(original);
+    if (!QFileInfo(original).isFile())
         return {};
     if (!m_userPaths.contains(plainName)) {
         if (!link(original, plainName) || !makeCopy(plainName))

@@ -13,12 +13,15 @@
 
 namespace NETCATCHER {
 
+class ReadManifest;
+
 /// The folder in which an engine works: links with plain names stand for the user's files, so that no name of the
 /// user's is ever seen, let alone interpreted, by the engine. Maps the plain names back.
 class PrivateFolder
 {
 public:
-    PrivateFolder();
+    /// `manifest` takes note of every place of the user's that is looked at.
+    explicit PrivateFolder(ReadManifest &manifest);
 
     bool isValid() const { return m_folder.isValid(); }
     QString path() const { return m_folder.path(); }
@@ -46,6 +49,7 @@ private:
     std::optional<QString> addIncludeFrom(const QString &userFolder, const QString &plainFolder, const QString &name);
     QString folderFor(const QString &userFolder);
 
+    ReadManifest &m_manifest;
     QTemporaryDir m_folder;
     QHash<QString, QString> m_folders;  ///< user's folder to plain folder of sources
     QStringList m_includeFolders;       ///< the user's

@@ -4,6 +4,7 @@
 #include "verilatorengine.h"
 
 #include "packageorder.h"
+#include "readmanifest.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -25,11 +26,18 @@ constexpr qint64 maxScanBytes = 64 << 20;
 constexpr int maxPasses = 12;
 
 VerilatorEngine::VerilatorEngine(const DesignSources &sources, const EngineLimits &limits,
-                                 const ProgressFunction &progress)
+                                 const ProgressFunction &progress, ReadManifest &manifest)
     : m_sources(sources)
     , m_limits(limits)
     , m_progress(progress)
+    , m_manifest(manifest)
+    , m_folder(manifest)
 {
+}
+
+QString VerilatorEngine::program()
+{
+    return QStandardPaths::findExecutable(QLatin1String(engineProgram));
 }
 
 QString VerilatorEngine::xmlPath() const
@@ -49,6 +57,8 @@ bool VerilatorEngine::linkSources()
         return false;
     }
     for (const SourceFile &file : m_sources.files) {
+        if (file.language != SourceFile::Vhdl)
+            m_manifest.look(file.path);
         const QFileInfo info(file.path);
         if (file.language == SourceFile::Vhdl)
             m_messages.append(
@@ -63,6 +73,7 @@ bool VerilatorEngine::linkSources()
             addError(QStringLiteral("%1: The file cannot be linked into %2.").arg(file.path, m_folder.path()));
     }
     for (const QString &path : m_sources.includePaths) {
+        m_manifest.look(path);
         if (!QFileInfo(path).isDir())
             m_messages.append(QStringLiteral("WARNING: %1: There is no such include folder.").arg(path));
         else
@@ -231,8 +242,8 @@ VerilatorEngine::Outcome VerilatorEngine::run()
         return Failed;
     if (m_files.isEmpty())
         return NoModules;
-    const QString program = QStandardPaths::findExecutable(QLatin1String(engineProgram));
-    if (program.isEmpty()) {
+    const QString engine = program();
+    if (engine.isEmpty()) {
         addError(QStringLiteral("The Verilog engine %1 is not installed; install the Debian package \"verilator\" "
                                 "(apt install verilator).")
                      .arg(QLatin1String(engineProgram)));
@@ -249,11 +260,11 @@ VerilatorEngine::Outcome VerilatorEngine::run()
         m_progress({BuildProgress::RunningEngine, 0, 0});
         EngineLimits left = m_limits;
         left.milliseconds = qMax(qint64(1), m_limits.milliseconds - timer.elapsed());
-        const EngineResult result = runEngine(program, arguments(), m_folder.path(), left, [this] {
+        const EngineResult result = runEngine(engine, arguments(), m_folder.path(), left, [this] {
             m_progress({BuildProgress::RunningEngine, 0, 0});
         });
         if (result.outcome == EngineResult::NotStarted) {
-            addError(QStringLiteral("The Verilog engine %1 cannot be started.").arg(program));
+            addError(QStringLiteral("The Verilog engine %1 cannot be started.").arg(engine));
             return Failed;
         }
         const QVector<EngineMessage> messages = parseEngineMessages(relativeToFolder(result.messages));
@@ -262,6 +273,15 @@ VerilatorEngine::Outcome VerilatorEngine::run()
         if (isOver || !learn(messages))
             return judge(result, messages);
     }
+}
+
+bool VerilatorEngine::hasReadOnlyGiven(const QVector<QByteArray> &files) const
+{
+    const QString folder = m_folder.path() + QLatin1Char('/');
+    return std::all_of(files.cbegin(), files.cend(), [&](const QByteArray &name) {
+        const QString path = QString::fromUtf8(relativeToFolder(name));
+        return path.startsWith(QLatin1Char('<')) || QDir::cleanPath(folder + path).startsWith(folder);
+    });
 }
 
 QStringList VerilatorEngine::declaredModules() const

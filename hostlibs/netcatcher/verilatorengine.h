@@ -15,7 +15,12 @@ namespace NETCATCHER {
 class VerilatorEngine
 {
 public:
-    VerilatorEngine(const DesignSources &sources, const EngineLimits &limits, const ProgressFunction &progress);
+    /// `manifest` takes note of what is looked at.
+    VerilatorEngine(const DesignSources &sources, const EngineLimits &limits, const ProgressFunction &progress,
+                    ReadManifest &manifest);
+
+    /// The path of the engine; empty when it is not installed.
+    static QString program();
 
     enum Outcome {
         Done,       ///< the result can be read
@@ -28,6 +33,9 @@ public:
 
     /// The engine's result, inside the private folder.
     QString xmlPath() const;
+    /// Whether all files that the result names were given to the engine; it opens others when a source includes them by
+    /// their absolute paths.
+    bool hasReadOnlyGiven(const QVector<QByteArray> &files) const;
     /// Errors and warnings as users see them.
     const QStringList &messages() const { return m_messages; }
     /// Modules that the sources declare, and those of them that none instantiates, by a scan of the text.
@@ -50,6 +58,7 @@ private:
     const DesignSources m_sources;
     const EngineLimits m_limits;
     const ProgressFunction m_progress;
+    ReadManifest &m_manifest;
     PrivateFolder m_folder;
     QStringList m_files;  ///< plain names of the sources, by origin; those of includes follow
     QVector<int> m_order; ///< of the sources

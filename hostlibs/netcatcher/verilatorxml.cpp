@@ -240,6 +240,7 @@ void Reader::enter(Frame &frame)
 void Reader::addFile()
 {
     files.insert(text("id"), text("filename"));
+    design.files.append(text("filename"));
 }
 
 void Reader::openModule(Tag tag)

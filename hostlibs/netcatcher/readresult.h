@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "moduletable.h"
+
+#include <QStringList>
+
+#include <optional>
+
+namespace NETCATCHER {
+
+/// What reading a design gave.
+struct ReadResult
+{
+    QStringList tops;
+    QStringList modules;
+    QStringList messages;             ///< lines that begin with "ERROR" or "WARNING"
+    std::optional<ModuleTable> table; ///< of the only top; none when there are several
+    QStringList tableWarnings;        ///< lines about what the table leaves out
+};
+
+} // namespace NETCATCHER
