@@ -29,7 +29,7 @@ static void setColumnWidths(QTableView *table)
                           table->columnWidth(VAK::MatchUnitModel::NameColumn) + checkBox);
     fit(VAK::MatchUnitModel::PortColumn, QStringLiteral("Trigger Port 15"));
     fit(VAK::MatchUnitModel::FunctionColumn, QStringLiteral("in range"));
-    fit(VAK::MatchUnitModel::ValueColumn, QStringLiteral("XXXXXXXXXXXX"));
+    fit(VAK::MatchUnitModel::ValueColumn, QStringLiteral("XXXXXXXX"));
     fit(VAK::MatchUnitModel::CounterColumn, QStringLiteral("99 total"));
 }
 

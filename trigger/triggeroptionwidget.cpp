@@ -88,9 +88,9 @@ void TriggerOptionWidget::setUpViews()
            "and M10 to M15 are not available."));
     private_impl::setUpMatchUnitTable(ui->tableMu, matchUnits);
     ui->treeTrigger->setMinimumWidth(private_impl::portRowWidth(ui->treeTrigger));
-    ui->splitter->setSizes({210, 440, 240});
-    ui->splitter->setStretchFactor(0, 2);
-    ui->splitter->setStretchFactor(1, 2);
+    ui->splitter->setSizes({140, 580, 150});
+    ui->splitter->setStretchFactor(0, 1);
+    ui->splitter->setStretchFactor(1, 3);
     ui->splitter->setStretchFactor(2, 1);
 }
 

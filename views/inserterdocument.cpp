@@ -4,9 +4,9 @@
 #include "views/inserterdocument.h"
 
 #include "views/rtlnetlistsource.h"
-#include "widgets/messagebox.h"
 
 #include "plugin/vakinserterview.h"
+#include "rules/backupname.h"
 #include "rules/designevents.h"
 #include "widgets/messagebox.h"
 #include "widgets/reloadbanner.h"
@@ -332,7 +332,7 @@ void InserterDocument::keepUnsavedWork()
     if (!modifiedFlag())
         return;
     applyPages();
-    const QString copy = path() + QStringLiteral(".recovered");
+    const QString copy = freeBackupName(path(), QStringLiteral("recovered"));
     if (write(copy))
         tellHost(QUtil::MessageEvent::Warning,
                  QStringLiteral("Unsaved work on %1 is kept in %2").arg(nativePath(), QDir::toNativeSeparators(copy)));

@@ -3,6 +3,8 @@
 
 #include "workbench/recoveredwork.h"
 
+#include "rules/backupname.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -16,15 +18,22 @@ static QString text(const char *source)
     return QCoreApplication::translate("Workbench::RecoveredWork", source);
 }
 
-/// Moves `from` to `to`, over what may be there.
 static bool move(const QString &from, const QString &to, QString *error)
 {
-    QFile::remove(to);
     QFile file(from);
     if (file.rename(to))
         return true;
     *error = text("Can not move %1 to %2:\n%3")
                  .arg(QDir::toNativeSeparators(from), QDir::toNativeSeparators(to), file.errorString());
+    return false;
+}
+
+static bool remove(const QString &name, QString *error)
+{
+    QFile file(name);
+    if (file.remove())
+        return true;
+    *error = text("Can not delete %1:\n%2").arg(QDir::toNativeSeparators(name), file.errorString());
     return false;
 }
 
@@ -45,26 +54,23 @@ static int ask(const QString &analyzerFile, const QString &savedFile, QWidget *p
     return box.exec();
 }
 
-QString recoveredCopyOf(const QString &analyzerFile)
-{
-    return analyzerFile + ".recovered";
-}
-
 bool settleRecoveredWork(const QString &analyzerFile, QWidget *parent, QString *error)
 {
-    const QString recovered = recoveredCopyOf(analyzerFile);
-    if (!QFile::exists(recovered))
-        return true;
-    const QString saved = analyzerFile + ".saved";
-    switch (ask(analyzerFile, saved, parent)) {
-    case QMessageBox::Yes:
-        return move(analyzerFile, saved, error) && move(recovered, analyzerFile, error);
-    case QMessageBox::Discard:
-        QFile::remove(recovered);
-        return true;
-    default:
-        return true;
+    QString recovered;
+    while (!(recovered = RTLVAK::latestBackup(analyzerFile, "recovered")).isEmpty()) {
+        const QString saved = RTLVAK::freeBackupName(analyzerFile, "saved");
+        switch (ask(analyzerFile, saved, parent)) {
+        case QMessageBox::Yes:
+            return move(analyzerFile, saved, error) && move(recovered, analyzerFile, error);
+        case QMessageBox::Discard:
+            if (!remove(recovered, error))
+                return false;
+            break;
+        default:
+            return true;
+        }
     }
+    return true;
 }
 
 } // namespace Workbench

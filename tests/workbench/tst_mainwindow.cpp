@@ -29,7 +29,9 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -72,6 +74,7 @@ private slots:
     void changedFileListIsOfferedAsAProject();
     void projectIsSavedElsewhere();
     void newAnalyzerFileHasNoCores();
+    void firstSizeShowsAllColumnsOfTheMatchUnits();
     void newLiteFileOpens();
     void analyzerFindsItsProject();
     void analyzerWithoutProjectAsksForIt();
@@ -571,6 +574,17 @@ void TestMainWindow::newAnalyzerFileHasNoCores()
     QCOMPARE(TE::ProjectEngine::instance()->file("watch.rvk").type, int(TE::AnalyzerConfigFile));
     driver.answerBox(QMessageBox::Discard);
     trigger("actionClose");
+}
+
+void TestMainWindow::firstSizeShowsAllColumnsOfTheMatchUnits()
+{
+    QVERIFY(window->open(path("blink.vakproj")));
+    VAK::AoCore core(0);
+    QVERIFY(VAK::writeVAKConfigToXml({&core}, path("a.rvk")));
+    QVERIFY(window->open(path("a.rvk")));
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    QCOMPARE(child<QTableView>(*activeView(), "tableMu").horizontalScrollBar()->maximum(), 0);
 }
 
 void TestMainWindow::newLiteFileOpens()

@@ -16,6 +16,7 @@
 
 #include <QFile>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTest>
 
 using support::child;
@@ -31,11 +32,13 @@ private slots:
     void yesContinuesWithIt();
     void noOpensTheFileAndAsksAgain();
     void discardDeletesIt();
+    void laterWorkDoesNotReplaceEarlierWork();
+    void earlierFilesInItsPlaceStay();
     void aShownFileIsNotAskedAbout();
     void neighboursStayOpen();
 
 private:
-    void loseTheDesign(const QString &neighbour = {});
+    void loseTheDesign(const QString &neighbour = {}, QMessageBox::StandardButton answer = QMessageBox::NoButton);
     QString clockIn(const QString &name) const;
 };
 
@@ -48,7 +51,8 @@ QString TestRecovery::clockIn(const QString &name) const
 }
 
 /// Opens a.rvk, whose clock is "clk", changes that to "rst", names a top that there is not, and reloads.
-void TestRecovery::loseTheDesign(const QString &neighbour)
+/// Work that was kept before is asked about; `answer` is what the user says to that.
+void TestRecovery::loseTheDesign(const QString &neighbour, QMessageBox::StandardButton answer)
 {
     VAK::AoCore core(0);
     core.setSampleClock("clk");
@@ -56,16 +60,17 @@ void TestRecovery::loseTheDesign(const QString &neighbour)
     QVERIFY(window->open(path("blink.vakproj")));
     if (!neighbour.isEmpty())
         QVERIFY(window->open(path(neighbour)));
+    DialogDriver driver;
+    if (answer != QMessageBox::NoButton)
+        driver.answerBox(answer);
     QVERIFY(window->open(path("a.rvk")));
     child<QLineEdit>(*activeView(), "editSampleClock").setText("rst");
     QVERIFY(tabs().contains("a.rvk *"));
 
-    DialogDriver driver;
     QVERIFY(TE::ProjectEngine::instance()->setOption("TopModule", "nothing"));
     driver.answerBox(QMessageBox::Ok);
     support::clickButton(*activeView()->findChild<RTLVAK::ReloadBanner *>(), "btnA");
-    QCOMPARE(driver.boxes().size(), 1);
-    QCOMPARE(driver.boxes().first().text, QString("No module named \"nothing\", please reset top module."));
+    QCOMPARE(driver.boxes().last().text, QString("No module named \"nothing\", please reset top module."));
     support::runDeferredDeletes();
     QVERIFY(TE::ProjectEngine::instance()->setOption("TopModule", "blink"));
 }
@@ -121,6 +126,32 @@ void TestRecovery::discardDeletesIt()
     QCOMPARE(child<QLineEdit>(*activeView(), "editSampleClock").text(), QString("clk"));
     QVERIFY(!QFile::exists(path("a.rvk.recovered")));
     QVERIFY(!QFile::exists(path("a.rvk.saved")));
+}
+
+void TestRecovery::laterWorkDoesNotReplaceEarlierWork()
+{
+    dir->write("a.rvk.recovered", "earlier");
+    loseTheDesign("", QMessageBox::No);
+    QCOMPARE(clockIn("a.rvk.recovered2"), QString("rst"));
+    QVERIFY(messages().contains("Unsaved work on " + path("a.rvk") + " is kept in " + path("a.rvk.recovered2")));
+    DialogDriver driver;
+    driver.answerBox(QMessageBox::Discard);
+    driver.answerBox(QMessageBox::No);
+    QVERIFY(window->open(path("a.rvk")));
+    QCOMPARE(driver.boxes().size(), 2);
+    QVERIFY(!QFile::exists(path("a.rvk.recovered2")));
+    QCOMPARE(dir->read("a.rvk.recovered"), QByteArray("earlier"));
+}
+
+void TestRecovery::earlierFilesInItsPlaceStay()
+{
+    dir->write("a.rvk.saved", "earlier");
+    loseTheDesign();
+    DialogDriver driver;
+    driver.answerBox(QMessageBox::Yes);
+    QVERIFY(window->open(path("a.rvk")));
+    QCOMPARE(dir->read("a.rvk.saved"), QByteArray("earlier"));
+    QCOMPARE(clockIn("a.rvk.saved2"), QString("clk"));
 }
 
 void TestRecovery::aShownFileIsNotAskedAbout()
