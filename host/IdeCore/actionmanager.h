@@ -26,9 +26,9 @@ public:
 class HOST_EXPORT ActionManager
 {
 public:
-    /// Makes `action` the implementation of the host action `id` while `context` is active. The action stays the caller's
-    /// and may be deleted at any time. Registering again for the same id and context replaces the implementation.
-    /// The result belongs to the manager and is never null.
+    /// Makes `action` the implementation of the host action `id` while `context` is active. The action stays the
+    /// caller's and may be deleted at any time. Registering again for the same id and context replaces the
+    /// implementation. The result belongs to the manager and is never null.
     static Core::IAction *registerAction(QAction *action, const QString &id, const QString &context);
 };
 

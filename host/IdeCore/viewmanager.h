@@ -26,8 +26,8 @@ public:
     static void showView(Core::IView *view);
     /// Closes the container of `view`. Returns false when the view refused to close or is not shown.
     static bool closeView(Core::IView *view);
-    /// Binds `context` to `widget`: actions registered for `context` apply while `widget` is active. With `enable` false
-    /// the binding is removed. A widget has at most one context; a later call replaces it.
+    /// Binds `context` to `widget`: actions registered for `context` apply while `widget` is active. With `enable`
+    /// false the binding is removed. A widget has at most one context; a later call replaces it.
     static void registerContext(QWidget *widget, const QString &context, bool enable);
     /// The widget that message boxes without a view of their own use as parent; null when the host has no window.
     static QWidget *dialogParent();

@@ -15,11 +15,11 @@ namespace TE {
 
 /// Names of the project's options.
 namespace OptionName {
-constexpr char TopModule[] = "TopModule";               ///< QString, empty when not set
-constexpr char IncludePath[] = "IncludePath";           ///< QStringList, relative entries are relative to workingDir()
-constexpr char Defines[] = "Defines";                   ///< QStringList, NAME or NAME=VALUE
-constexpr char SynthesizeTool[] = "Synthesize_tool";    ///< QString, "OrvaneSynthesis" or "Synplify"
-constexpr char VerilogStandard[] = "Verilog_Standard";  ///< QString, one of the standards that the project offers
+constexpr char TopModule[] = "TopModule";              ///< QString, empty when not set
+constexpr char IncludePath[] = "IncludePath";          ///< QStringList, relative entries are relative to workingDir()
+constexpr char Defines[] = "Defines";                  ///< QStringList, NAME or NAME=VALUE
+constexpr char SynthesizeTool[] = "Synthesize_tool";   ///< QString, "OrvaneSynthesis" or "Synplify"
+constexpr char VerilogStandard[] = "Verilog_Standard"; ///< QString, one of the standards that the project offers
 } // namespace OptionName
 
 /// Keys of the source information.

@@ -26,10 +26,10 @@ enum FileType : int {
 /// One file of the project.
 struct HOST_EXPORT DesignFile
 {
-    QString path;             ///< absolute and clean
-    int type = OtherFile;     ///< a FileType code
-    bool enabled = false;     ///< disabled files take no part in the design
-    QString library;          ///< VHDL library; empty for the default one
+    QString path;         ///< absolute and clean
+    int type = OtherFile; ///< a FileType code
+    bool enabled = false; ///< disabled files take no part in the design
+    QString library;      ///< VHDL library; empty for the default one
 };
 
 /// The project's current device.

@@ -7,13 +7,13 @@
 namespace TE {
 
 namespace EventType {
-constexpr char FileAdd[] = "TE.File.Add";                   ///< values: file
-constexpr char FileRemove[] = "TE.File.Remove";             ///< values: file, type, enable
+constexpr char FileAdd[] = "TE.File.Add";                    ///< values: file
+constexpr char FileRemove[] = "TE.File.Remove";              ///< values: file, type, enable
 constexpr char FileChangeEnable[] = "TE.File.Change.Enable"; ///< values: file, type, enable
-constexpr char FileChangeType[] = "TE.File.Change.Type";    ///< values: file, type, previous
-constexpr char FileModified[] = "TE.File.Modified";         ///< values: file
-constexpr char OptionChange[] = "TE.Option.Change";         ///< values: option
-constexpr char DeviceChange[] = "TE.Device.Change";         ///< no values
+constexpr char FileChangeType[] = "TE.File.Change.Type";     ///< values: file, type, previous
+constexpr char FileModified[] = "TE.File.Modified";          ///< values: file
+constexpr char OptionChange[] = "TE.Option.Change";          ///< values: option
+constexpr char DeviceChange[] = "TE.Device.Change";          ///< no values
 } // namespace EventType
 
 namespace EventKey {

@@ -12,8 +12,8 @@ namespace QUtil {
 class IEvent;
 class IEventHandler;
 
-/// The event bus. Delivery is synchronous, in the order of subscription; subscribing and unsubscribing during a delivery
-/// is allowed (a handler subscribed meanwhile gets the next event, one unsubscribed meanwhile gets no more).
+/// The event bus. Delivery is synchronous, in the order of subscription; subscribing and unsubscribing during a
+/// delivery is allowed (a handler subscribed meanwhile gets the next event, one unsubscribed meanwhile gets no more).
 class HOST_EXPORT EventManager
 {
 public:

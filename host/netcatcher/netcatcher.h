@@ -15,9 +15,10 @@ class QWidget;
 
 namespace NETCATCHER {
 
-/// Parses the design that `sourceInfo` describes (TE::SourceKey) and appends to the three lists: the modules that can be
-/// the top, every module found (none when "Top" names none of them), and the parser's messages. A message about an error
-/// begins with "ERROR" and names file and line where known. Shows a progress dialog over `parent` while the engine works.
+/// Parses the design that `sourceInfo` describes (TE::SourceKey) and appends to the three lists: the modules that can
+/// be the top, every module found (none when "Top" names none of them), and the parser's messages. A message about an
+/// error begins with "ERROR" and names file and line where known. Shows a progress dialog over `parent` while the
+/// engine works.
 HOST_EXPORT void catchRtlModules(QStringList &tops, QStringList &modules, QStringList &messages,
                                  QMap<QString, QVariant> &sourceInfo, QWidget *parent);
 

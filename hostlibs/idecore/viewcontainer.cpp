@@ -76,8 +76,8 @@ void ViewContainer::closeEvent(QCloseEvent *event)
 void ViewContainer::childEvent(QChildEvent *event)
 {
     QWidget::childEvent(event);
-    // A view that somebody deletes takes its tab along. QObject::destroyed comes too early for that: the view would still
-    // be hidden with the tab, half destroyed.
+    // A view that somebody deletes takes its tab along. QObject::destroyed comes too early for that: the view would
+    // still be hidden with the tab, half destroyed.
     if (event->removed() && m_view.isNull())
         closeForGood();
 }
