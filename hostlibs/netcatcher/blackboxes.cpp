@@ -44,6 +44,16 @@ bool BlackBoxes::isStandIn(const QByteArray &plainName)
     return plainName.startsWith("vakstub/");
 }
 
+QString BlackBoxes::wrapperName()
+{
+    return QStringLiteral("vak_module_around_the_top");
+}
+
+void BlackBoxes::wrapTop(const QByteArray &top)
+{
+    m_wrapped = top;
+}
+
 void BlackBoxes::learn(const HdlScan &scan)
 {
     for (auto it = scan.usages.cbegin(); it != scan.usages.cend(); ++it) {
@@ -175,7 +185,12 @@ static bool writeFile(const QString &path, const QByteArray &text)
 
 QStringList BlackBoxes::files() const
 {
-    return m_escaped.isEmpty() ? QStringList() : QStringList(folderName() + QStringLiteral("/escaped.v"));
+    QStringList files;
+    if (!m_escaped.isEmpty())
+        files.append(folderName() + QStringLiteral("/escaped.v"));
+    if (!m_wrapped.isEmpty())
+        files.append(folderName() + QStringLiteral("/wrapper.v"));
+    return files;
 }
 
 bool BlackBoxes::write(const QString &folder) const
@@ -191,7 +206,10 @@ bool BlackBoxes::write(const QString &folder) const
     QByteArray escaped;
     for (const QByteArray &name : m_escaped)
         escaped += standIn(name, m_usages.value(name));
-    return writeFile(place.filePath(QStringLiteral("escaped.v")), escaped);
+    const QByteArray wrapper =
+        "module " + wrapperName().toLatin1() + ";\n  \\" + m_wrapped + "  wrapped ();\nendmodule\n";
+    return writeFile(place.filePath(QStringLiteral("escaped.v")), escaped) &&
+           writeFile(place.filePath(QStringLiteral("wrapper.v")), wrapper);
 }
 
 } // namespace NETCATCHER

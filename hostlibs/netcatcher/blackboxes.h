@@ -27,6 +27,13 @@ public:
     /// Whether a file that the engine names is a stand-in.
     static bool isStandIn(const QByteArray &plainName);
 
+    /// The name of the stand-in that wrapTop() asks for.
+    static QString wrapperName();
+
+    /// Asks for a module around `top`. Without it the engine loses every module of the design when the top has an
+    /// escaped name, and the inner instances of a top that instantiates itself.
+    void wrapTop(const QByteArray &top);
+    bool wrapsTop() const { return !m_wrapped.isEmpty(); }
     /// Takes over how the sources use modules that they do not declare.
     void learn(const HdlScan &scan);
     /// Takes over what the engine missed; false when there was nothing new in it.
@@ -47,6 +54,7 @@ private:
     ModuleUsage m_common; ///< pins and parameters that the engine missed somewhere: every stand-in gets them
     QMap<QByteArray, int> m_widths;
     QSet<QByteArray> m_escaped; ///< modules whose names are no plain identifiers
+    QByteArray m_wrapped;       ///< the top that needs a module around it
 };
 
 } // namespace NETCATCHER

@@ -188,6 +188,8 @@ void HdlScanner::identifier(const QByteArray &name)
     putBack(token);
     if (!isInstance)
         return;
+    if (!m_result.modules.isEmpty() && m_result.modules.constLast() == name)
+        m_result.recursive.insert(name);
     ModuleUsage &all = m_result.usages[name];
     all.pins.unite(usage.pins);
     all.parameters.unite(usage.parameters);

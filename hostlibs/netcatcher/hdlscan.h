@@ -33,6 +33,7 @@ struct HdlScan
     QSet<QByteArray> packages;            ///< declared
     QSet<QByteArray> usedPackages;        ///< before `::`
     QMap<QByteArray, ModuleUsage> usages; ///< by module name, of everything that looks like an instance
+    QSet<QByteArray> recursive;           ///< modules that instantiate themselves
     QSet<QByteArray> genvars;
     QSet<QByteArray> defparams; ///< parameters set from outside of the instance
 };

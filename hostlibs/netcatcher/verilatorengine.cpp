@@ -117,11 +117,16 @@ void VerilatorEngine::scanSources()
         progress.doneBytes += QFileInfo(m_folder.filePath(m_files[i])).size();
         m_all.modules += scans[i].modules;
         m_all.genvars.unite(scans[i].genvars);
+        m_all.recursive.unite(scans[i].recursive);
         for (auto it = scans[i].usages.cbegin(); it != scans[i].usages.cend(); ++it)
             m_all.usages.insert(it.key(), it.value());
         m_blackBoxes.learn(scans[i]);
     }
     m_order = packageOrder(scans);
+    // Only a name that was read from a source is written into one.
+    const QByteArray top = m_sources.top.toUtf8();
+    if (m_all.modules.contains(top) && (!isPlainName(top) || m_all.recursive.contains(top)))
+        m_blackBoxes.wrapTop(top);
 }
 
 QStringList VerilatorEngine::arguments() const
@@ -151,9 +156,9 @@ QStringList VerilatorEngine::arguments() const
         QLatin1String(resultFolder),
         QStringLiteral("--relative-includes"),
     };
-    // The engine loses every module when the top has an escaped name; it is looked for in the whole design then.
-    if (isPlainName(m_sources.top.toUtf8()))
-        result << QStringLiteral("--top-module") << m_sources.top;
+    const QString top = m_blackBoxes.wrapsTop() ? BlackBoxes::wrapperName() : m_sources.top;
+    if (isPlainName(top.toUtf8()))
+        result << QStringLiteral("--top-module") << top;
     const QString language = engineLanguage(m_sources.standard);
     if (!language.isEmpty())
         result << QStringLiteral("--default-language") << language;
