@@ -15,7 +15,7 @@ namespace NETCATCHER {
 namespace {
 
 /// How an expression uses the variables in it.
-enum class Access : quint8 { Read, Write, Unknown, InputPort };
+enum class Access : quint8 { Read, Write, Unknown, InputPort, Nothing };
 
 /// One open element.
 struct Frame
@@ -147,8 +147,11 @@ void Reader::inheritExpression(Frame &frame, const Frame &parent)
     switch (parent.tag) {
     case Tag::Assignment:
     case Tag::ContinuousAssignment:
-        // The right side comes first.
+        // The right side comes first. Outside of processes there is no such assignment but the first one to the genvar
+        // of a loop without rounds, which the engine leaves behind.
         frame.access = position == 1 ? Access::Write : Access::Read;
+        if (parent.tag == Tag::Assignment && !parent.inBody)
+            frame.access = Access::Nothing;
         frame.isValue = position == 0;
         if (position == 1) {
             const bool lasting = parent.tag == Tag::ContinuousAssignment || parent.inInitial;
@@ -371,6 +374,8 @@ void Reader::addReference(const Frame &frame)
         break;
     case Access::InputPort:
         uses.referFromInput(frame.scope, name, int(design.modules.back().instances.size()) - 1);
+        break;
+    case Access::Nothing:
         break;
     }
 }
