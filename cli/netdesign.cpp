@@ -104,6 +104,8 @@ std::unique_ptr<NETCATCHER::RtlNetlist> readNetlist(const QCommandLineParser &pa
     const QString &top = builder.sources().top;
     if (!isRead)
         *error = QStringLiteral("the design has errors");
+    else if (builder.isTopInterface())
+        *error = QStringLiteral("'%1' is an interface; choose a module as the top").arg(top);
     else if (!top.isEmpty() && (builder.modules().isEmpty() || !builder.tops().contains(top)))
         *error = QStringLiteral("there is no module '%1'").arg(top);
     else if (builder.modules().isEmpty())

@@ -33,10 +33,12 @@ struct SearchOptions
     QCommandLineOption caseSensitive{QStringLiteral("case-sensitive"),
                                      QStringLiteral("Tell upper and lower case apart.")};
     QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Print JSON.")};
+    QCommandLineOption count{QStringLiteral("count"),
+                             QStringLiteral("Print how many nets there are instead of listing them.")};
 
     void addTo(QCommandLineParser &parser) const
     {
-        parser.addOptions({scope, noSub, match, wildcard, regex, caseSensitive, json});
+        parser.addOptions({scope, noSub, match, wildcard, regex, caseSensitive, json, count});
     }
 };
 
@@ -97,6 +99,32 @@ static void printRows(const RTLVAK::SearchHits &hits)
     standardOutput().flush();
 }
 
+static NETCATCHER::NetCounts countsOf(const RTLVAK::SearchHits &hits)
+{
+    NETCATCHER::NetCounts counts;
+    for (const NETCATCHER::RtlNet *net : hits.nets)
+        ++(net->isUnusable() ? counts.unusable : counts.singleNets);
+    counts.bits = counts.singleNets;
+    for (const NETCATCHER::RtlNetBus *bus : hits.buses) {
+        ++(bus->isUnusable() ? counts.unusable : counts.buses);
+        counts.bits += bus->isUnusable() ? 0 : quint64(bus->nets().size());
+    }
+    return counts;
+}
+
+static void printCounts(const QString &top, const NETCATCHER::NetCounts &counts, bool asJson)
+{
+    QTextStream &out = standardOutput();
+    if (asJson)
+        out << "{\"top\":" << quoted(top) << ",\"rows\":" << counts.rows() << ",\"nets\":" << counts.singleNets
+            << ",\"buses\":" << counts.buses << ",\"bits\":" << counts.bits << ",\"unusable\":" << counts.unusable
+            << "}\n";
+    else
+        out << top << ": " << counts.rows() << " nets to choose from (" << counts.singleNets << " single, "
+            << counts.buses << " buses), " << counts.bits << " bits; " << counts.unusable << " unusable\n";
+    out.flush();
+}
+
 static RTLVAK::SearchCriteria criteriaOf(const QCommandLineParser &parser, const SearchOptions &options)
 {
     RTLVAK::SearchCriteria criteria;
@@ -121,9 +149,18 @@ static int search(const NETCATCHER::RtlNetlist &netlist, const QCommandLineParse
     criteria.scope = RTLVAK::findScope(&netlist, scope);
     if (!criteria.scope)
         return fail(QStringLiteral("there is no instance '%1'").arg(scope));
+    const QString top = netlist.topHierarchy()->module();
+    const bool isCounted = parser.isSet(options.count);
+    const bool isWhole = scope.isEmpty() && criteria.includeSub && criteria.plainText && criteria.pattern.isEmpty();
+    if (isCounted && isWhole) {
+        printCounts(top, netlist.counts(), parser.isSet(options.json));
+        return Success;
+    }
     const RTLVAK::SearchHits hits = RTLVAK::searchFlat(&netlist, criteria);
-    if (parser.isSet(options.json))
-        printJson(netlist.topHierarchy()->module(), hits);
+    if (isCounted)
+        printCounts(top, countsOf(hits), parser.isSet(options.json));
+    else if (parser.isSet(options.json))
+        printJson(top, hits);
     else
         printRows(hits);
     return Success;

@@ -16,6 +16,17 @@ class Hierachy;
 class RtlNet;
 class RtlNetBus;
 
+/// How many nets a design offers. A row is what a person can choose: a single net, or a bus as a whole.
+struct NetCounts
+{
+    quint64 singleNets = 0; ///< usable nets of width one, bits of buses not among them
+    quint64 buses = 0;      ///< usable buses
+    quint64 bits = 0;       ///< of both
+    quint64 unusable = 0;   ///< rows that are listed but cannot be chosen
+
+    quint64 rows() const { return singleNets + buses; }
+};
+
 /// The nets of an elaborated design. Everything that it hands out belongs to it and lives as long as it does.
 class HOST_EXPORT RtlNetlist
 {
@@ -34,6 +45,8 @@ public:
     bool jtagUsed() const;
     /// The single net or bit of a bus whose full path name is `name`, compared exactly; null when there is none.
     RtlNet *findNet(const QString &name) const;
+    /// Counts the nets of the whole design, without taking any bus apart.
+    NetCounts counts() const;
 
 private:
     std::unique_ptr<Data> d;

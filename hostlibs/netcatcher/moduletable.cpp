@@ -150,6 +150,19 @@ std::optional<quint32> ModuleDef::findBit(const QByteArray &bitName) const
     return {};
 }
 
+NetCounts ModuleDef::counts() const
+{
+    NetCounts result;
+    for (quint32 i = 0; i < singleCount(); ++i)
+        ++(isSingleUnusable(i) ? result.unusable : result.singleNets);
+    result.bits = result.singleNets;
+    for (const BusDef &def : buses) {
+        ++(def.unusable ? result.unusable : result.buses);
+        result.bits += def.unusable ? 0 : def.bitCount();
+    }
+    return result;
+}
+
 void ModuleDef::squeeze()
 {
     singleArena.squeeze();

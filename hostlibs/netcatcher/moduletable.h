@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <netcatcher/rtlnetlist.h>
+
 #include <QByteArray>
 #include <QString>
 
@@ -76,6 +78,9 @@ public:
     std::optional<quint32> findSingle(const QByteArray &netName) const;
     /// The bit named `bitName`, written exactly as bitName() writes it.
     std::optional<quint32> findBit(const QByteArray &bitName) const;
+
+    /// What one instance of the module contributes.
+    NetCounts counts() const;
 
     /// Gives back what the containers hold beyond their content.
     void squeeze();

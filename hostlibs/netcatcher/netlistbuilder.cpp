@@ -87,6 +87,12 @@ bool NetlistBuilder::readSources(const ProgressFunction &progress, ReadManifest 
     return true;
 }
 
+/// Only then is there a list of modules without the top in it.
+bool NetlistBuilder::isTopInterface() const
+{
+    return !m_sources.top.isEmpty() && !modules().isEmpty() && !tops().contains(m_sources.top);
+}
+
 bool NetlistBuilder::isInterface(const QString &name) const
 {
     return std::any_of(m_design.modules.begin(), m_design.modules.end(), [&name](const RawModule &module) {

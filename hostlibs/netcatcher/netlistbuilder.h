@@ -42,6 +42,8 @@ public:
     /// Every module found, without black boxes; none when the top that was set is neither among them nor an
     /// interface.
     const QStringList &modules() const { return m_read.modules; }
+    /// Whether the top that was set names an interface, which can be no top.
+    bool isTopInterface() const;
     /// Lines that begin with "ERROR" or "WARNING".
     const QStringList &messages() const { return m_read.messages; }
 

@@ -132,6 +132,23 @@ void NetStore::makeHandles()
     }
 }
 
+NetCounts NetStore::counts() const
+{
+    std::vector<NetCounts> ofModule;
+    ofModule.reserve(m_table.modules.size());
+    for (const ModuleDef &module : m_table.modules)
+        ofModule.push_back(module.counts());
+    NetCounts all;
+    for (const Node &node : m_nodes) {
+        const NetCounts &own = ofModule[node.moduleIndex];
+        all.singleNets += own.singleNets;
+        all.buses += own.buses;
+        all.bits += own.bits;
+        all.unusable += own.unusable;
+    }
+    return all;
+}
+
 QString NetStore::prefix(quint32 node) const
 {
     if (node == 0)

@@ -66,6 +66,7 @@ public:
     quint32 nodeCount() const { return quint32(m_nodes.size()); }
     quint32 indexOf(const Node &node) const { return quint32(&node - m_nodes.data()); }
     bool jtagUsed() const { return m_jtagUsed; }
+    NetCounts counts() const;
 
     QString netName(quint64 handle) const;
     QString netPath(quint64 handle) const;

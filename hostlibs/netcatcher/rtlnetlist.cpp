@@ -29,6 +29,11 @@ RtlNet *RtlNetlist::findNet(const QString &name) const
     return d->store->find(name);
 }
 
+NetCounts RtlNetlist::counts() const
+{
+    return d->store->counts();
+}
+
 RtlNet::RtlNet()
     : handle(0)
 {

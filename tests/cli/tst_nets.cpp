@@ -18,6 +18,9 @@ private slots:
     void rowsAreTheGoldenList();
     void jsonHoldsBusesWithBitsAndNets();
     void jsonOfAnEmptyHitListIsValid();
+    void countsOfTheWholeDesign_data();
+    void countsOfTheWholeDesign();
+    void countsOfASearch();
     void matchIsASubstringWithoutCase();
     void caseSensitiveMatch();
     void wildcardAndRegexMatchWholeNames();
@@ -87,6 +90,38 @@ void TestNets::jsonOfAnEmptyHitListIsValid()
              QJsonObject({{"top", "usable"}, {"buses", QJsonArray()}, {"nets", QJsonArray()}}));
 }
 
+void TestNets::countsOfTheWholeDesign_data()
+{
+    QTest::addColumn<QString>("design");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("json");
+    QTest::newRow("usable.v")
+        << "usable.v"
+        << "usable: 19 nets to choose from (11 single, 8 buses), 55 bits; 15 unusable\n"
+        << "{\"top\":\"usable\",\"rows\":19,\"nets\":11,\"buses\":8,\"bits\":55,\"unusable\":15}\n";
+}
+
+void TestNets::countsOfTheWholeDesign()
+{
+    QFETCH(QString, design);
+    const CliRun text = runRtlvak({"nets", "--count", data(design)});
+    QCOMPARE(text.status, 0);
+    QTEST(text.output, "text");
+    QTEST(runRtlvak({"nets", "--count", "--json", data(design)}).output, "json");
+}
+
+/// Counting the hits of a search gives what counting the whole gives, where both ask for the same.
+void TestNets::countsOfASearch()
+{
+    QCOMPARE(nets({"--count", "--match", "[", data("usable.v")}),
+             QStringList("usable: 8 nets to choose from (0 single, 8 buses), 44 bits; 5 unusable"));
+    QCOMPARE(nets({"--count", "--scope", "u_pin", data("usable.v")}),
+             QStringList("usable: 4 nets to choose from (4 single, 0 buses), 4 bits; 0 unusable"));
+    QCOMPARE(nets({"--count", "--no-sub", data("vectors.v")}),
+             QStringList("vectors: 18 nets to choose from (7 single, 11 buses), 140 bits; 0 unusable"));
+    QCOMPARE(nets({"--count", "--match", "", data("vectors.v")}), nets({"--count", data("vectors.v")}));
+}
+
 void TestNets::matchIsASubstringWithoutCase()
 {
     QCOMPARE(nets({"--match", "TAP[1].g", data("generated.v")}),
@@ -149,7 +184,7 @@ void TestNets::interfaceAsTopFails()
     const CliRun run = runRtlvak({"nets", "--top", "bus_if", source});
     QCOMPARE(run.status, 1);
     QCOMPARE(run.output, QString());
-    QCOMPARE(run.error, QString("rtlvak nets: there is no module 'bus_if'\n"));
+    QCOMPARE(run.error, QString("rtlvak nets: 'bus_if' is an interface; choose a module as the top\n"));
 }
 
 static const char project[] = R"({"vakproj": 1, "top": "second", "includePaths": ["inc"], "defines": ["WIDTH=3"],
@@ -239,7 +274,8 @@ void TestNets::helpExplainsTheCommand()
     const CliRun run = runRtlvak({"nets", "--help"});
     QCOMPARE(run.status, 0);
     QVERIFY(run.output.startsWith("Usage: rtlvak nets [options] PROJECT|LIST|SOURCE...\n"));
-    for (const char *option : {"--top", "--scope", "--match", "--wildcard", "--regex", "--case-sensitive", "--json"})
+    for (const char *option :
+         {"--top", "--scope", "--match", "--wildcard", "--regex", "--case-sensitive", "--json", "--count"})
         QVERIFY2(run.output.contains(option), option);
 }
 

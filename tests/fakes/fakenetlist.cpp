@@ -228,6 +228,21 @@ bool RtlNetlist::jtagUsed() const
     return d->jtagUsed;
 }
 
+NetCounts RtlNetlist::counts() const
+{
+    NetCounts result;
+    const QList<RtlNet *> nets = d->top->singleNetsIncludeSub();
+    for (const RtlNet *net : nets)
+        ++(net->isUnusable() ? result.unusable : result.singleNets);
+    result.bits = result.singleNets;
+    const QList<RtlNetBus *> buses = d->top->netbusesIncludeSub();
+    for (const RtlNetBus *bus : buses) {
+        ++(bus->isUnusable() ? result.unusable : result.buses);
+        result.bits += bus->isUnusable() ? 0 : quint64(bus->nets().size());
+    }
+    return result;
+}
+
 RtlNet *RtlNetlist::findNet(const QString &name) const
 {
     return d->array.find(name);
