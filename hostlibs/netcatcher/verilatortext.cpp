@@ -49,7 +49,8 @@ bool parseVerilatorConstant(const QString &text, int *value)
         return false;
     bool isNumber = false;
     qint64 number = digits.mid(1).toLongLong(&isNumber, base);
-    if (isSigned && isNumber && number >> (width - 1) & 1)
+    // Negative bounds of unpacked arrays come unsigned, those of all others signed.
+    if ((isSigned || width == 32) && isNumber && number >> (width - 1) == 1)
         number -= qint64(1) << width;
     *value = int(number);
     return isNumber && number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();

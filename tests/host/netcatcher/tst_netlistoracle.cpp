@@ -5,12 +5,13 @@
 
 #include "support/tempdir.h"
 
-#include <QMap>
+#include <QDir>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QtTest>
 
-/// Compares netlists, path by path and width by width, with what a simulator that shares no code with the engine finds
-/// in the same sources: the scopes and variables of its trace.
+/// Compares netlists, path by path, range by range and width by width, with what a simulator that shares no code with
+/// the engine finds in the same sources. A module of the tests' own asks it through its programming interface.
 class TestNetlistOracle : public QObject
 {
     Q_OBJECT
@@ -20,96 +21,91 @@ private slots:
     void agreesWithTheSimulator();
 };
 
-using Widths = QMap<QString, int>;
+/// Designs that the simulator cannot tell about.
+static const QStringList exceptions{
+    "boxed",      // has modules without source
+    "charge",     // has declarations that the simulator does not read
+    "jtag_model", // is a part of another design
+    "planes",     // has arrays of more than one dimension, which the simulator flattens
+    "usable",     // has unused nets, which the simulator drops
+};
 
 void TestNetlistOracle::agreesWithTheSimulator_data()
 {
     QTest::addColumn<QString>("design");
-    QTest::newRow("vectors") << "vectors";
-    QTest::newRow("generated") << "generated";
+    const QStringList files = QDir(probe::dataFile(QString())).entryList({"*.v"}, QDir::Files, QDir::Name);
+    for (const QString &file : files) {
+        const QString design = file.left(file.size() - 2);
+        if (!exceptions.contains(design))
+            QTest::newRow(qPrintable(design)) << design;
+    }
 }
 
-static bool run(const QString &program, const QStringList &arguments, const QString &folder)
+/// The output of a program; null, with the reason printed, when it fails.
+static QByteArray outputOf(const QString &program, const QStringList &arguments, const QString &folder)
 {
     QProcess process;
     process.setWorkingDirectory(folder);
     process.start(program, arguments);
-    return process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    const bool hasEnded =
+        process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    if (!hasEnded)
+        qWarning().noquote() << program << process.errorString() << process.readAllStandardError();
+    return hasEnded ? process.readAllStandardOutput() + '\n' : QByteArray();
 }
 
-static QByteArray trace(const QString &design, const support::TempDir &dir)
+/// Both sides' form of one net. The simulator does not tell `[0:0]` from a scalar, and it numbers generate blocks
+/// without names in its own way; the standard's numbers stand in the golden lists.
+static QString entry(QString name, int width)
 {
-    const QString bench =
-        dir.write("bench.v", "module oracle; initial begin $dumpfile(\"trace.vcd\"); $dumpvars(0, dut); "
-                             "end " +
-                                 design.toUtf8() + " dut(); endmodule\n");
-    if (!run("iverilog", {"-g2005", "-o", "sim", bench, probe::dataFile(design + ".v")}, dir.path()) ||
-        !run("vvp", {"-n", "sim"}, dir.path()))
-        return {};
-    return dir.read("trace.vcd");
+    static const QRegularExpression number(QStringLiteral("\\bgenblk\\d+"));
+    if (width == 1 && name.endsWith("[0:0]"))
+        name.chop(5);
+    return name.replace(number, QStringLiteral("genblk")) + '\t' + QString::number(width);
 }
 
-/// Generate blocks without names are numbered differently by every tool; functions and processes have no nets.
-static bool isCompared(const QString &path)
+static QStringList fromSimulator(const QByteArray &output)
 {
-    return !path.contains("genblk") && !path.contains("(local)");
-}
-
-/// The variables of a trace below its second scope, under our names.
-static Widths fromTrace(const QByteArray &text)
-{
-    Widths widths;
-    QStringList scopes;
-    const QList<QByteArray> lines = text.split('\n');
-    for (const QByteArray &line : lines) {
-        const QStringList words = QString::fromLatin1(line).split(' ', Qt::SkipEmptyParts);
-        const QString first = words.value(0);
-        if (first == "$scope") {
-            const bool isGenerate = words[1] == "begin" && words[2] != "work";
-            scopes.append(words[1] == "module" ? words[2] + '/' : isGenerate ? words[2] + '.' : "(local)");
-        } else if (first == "$upscope") {
-            scopes.removeLast();
-        } else if (first == "$var" && words[1] != "parameter") {
-            QString name = words[4];
-            if (name.startsWith('\\'))
-                name.remove(0, 1);
-            const QString path = scopes.mid(2).join(QString()) + name;
-            if (isCompared(path))
-                widths.insert(path, words[2].toInt());
-        }
+    QStringList entries;
+    const QStringList lines = QString::fromUtf8(output).split('\n');
+    for (const QString &line : lines) {
+        QStringList columns = line.split('\t');
+        if (columns[0] != "NET" || columns[1] == "vpiRealVar" || columns[1] == "vpiNamedEvent")
+            continue;
+        columns[2].replace("\\\"", "\"").replace("\\\\", "\\"); // as in a string literal
+        entries.append(entry(columns[2], columns[3].toInt()));
     }
-    return widths;
+    entries.sort();
+    return entries;
 }
 
-static Widths fromNetlist(const NETCATCHER::RtlNetlist &netlist)
+static QStringList fromNetlist(const NETCATCHER::RtlNetlist &netlist)
 {
-    Widths widths;
-    for (const NETCATCHER::RtlNet *net : netlist.topHierarchy()->singleNetsIncludeSub()) {
-        if (isCompared(net->fullPathName()))
-            widths.insert(net->fullPathName(), 1);
-    }
-    for (const NETCATCHER::RtlNetBus *bus : netlist.topHierarchy()->netbusesIncludeSub()) {
-        const QString name = bus->fullBusName();
-        widths.insert(name.left(name.lastIndexOf('[')), bus->nets().size());
-    }
-    return widths;
+    QStringList entries;
+    for (const NETCATCHER::RtlNet *net : netlist.topHierarchy()->singleNetsIncludeSub())
+        entries.append(entry(net->fullPathName(), 1));
+    for (const NETCATCHER::RtlNetBus *bus : netlist.topHierarchy()->netbusesIncludeSub())
+        entries.append(entry(bus->fullBusName(), bus->nets().size()));
+    entries.sort();
+    return entries;
 }
 
 void TestNetlistOracle::agreesWithTheSimulator()
 {
     QFETCH(QString, design);
     const support::TempDir dir;
-    const QByteArray text = trace(design, dir);
-    QVERIFY2(!text.isEmpty(), "iverilog and vvp did not run");
-    const probe::Result result = probe::build(probe::sources({probe::dataFile(design + ".v")}));
+    const QString source = probe::dataFile(design + ".v");
+    QVERIFY(!outputOf("iverilog", {"-g2005", "-s", design, "-o", "sim", source}, dir.path()).isNull());
+    const QByteArray output = outputOf("vvp", {"-n", "-M", VAK_VPI_FOLDER, "-m", "netwalker", "sim"}, dir.path());
+    QVERIFY(!output.isNull());
+    const probe::Result result = probe::build(probe::sources({source}));
     QVERIFY2(result.netlist, qPrintable(result.error));
-    const Widths expected = fromTrace(text);
-    const Widths actual = fromNetlist(*result.netlist);
-    QVERIFY(expected.size() > 20);
-    for (auto it = expected.cbegin(); it != expected.cend(); ++it)
-        QVERIFY2(actual.value(it.key()) == it.value(), qPrintable(it.key()));
-    for (auto it = actual.cbegin(); it != actual.cend(); ++it)
-        QVERIFY2(expected.contains(it.key()), qPrintable(it.key()));
+    const QStringList expected = fromSimulator(output);
+    const QStringList actual = fromNetlist(*result.netlist);
+    QVERIFY(expected.size() >= 8);
+    for (int i = 0; i < qMin(expected.size(), actual.size()); ++i)
+        QCOMPARE(actual[i], expected[i]);
+    QCOMPARE(actual.size(), expected.size());
 }
 
 QTEST_GUILESS_MAIN(TestNetlistOracle)

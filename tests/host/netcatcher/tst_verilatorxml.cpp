@@ -114,7 +114,10 @@ void TestVerilatorXml::constants_data()
     QTest::newRow("binary") << "4'b101" << true << 5;
     QTest::newRow("octal") << "6'o17" << true << 15;
     QTest::newRow("narrow negative") << "4'shf" << true << -1;
-    QTest::newRow("too large") << "32'hffffffff" << false << 0;
+    QTest::newRow("negative bound of an array") << "32'hfffffffe" << true << -2;
+    QTest::newRow("lowest") << "32'h80000000" << true << std::numeric_limits<int>::min();
+    QTest::newRow("too large") << "33'h80000000" << false << 0;
+    QTest::newRow("more digits than bits") << "32'h100000000" << false << 0;
     QTest::newRow("wide") << "64'h1" << false << 0;
     QTest::newRow("unknown") << "32'hx" << false << 0;
     QTest::newRow("no base") << "12" << false << 0;
