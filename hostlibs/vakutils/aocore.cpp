@@ -13,33 +13,21 @@ namespace VAK {
 
 struct AoCore::Private
 {
-    Private(int coreIndex, AoCore *core);
+    explicit Private(AoCore *core);
     ~Private();
 
-    int index = 0;
     QList<TriggerPort *> ports;
     QList<MatchUnit *> units;
     QStringList expressions;
     int triggerMode = StaticTrigger;
     int triggerImplementation = BsramImplementation;
-    QString sampleClock;
-    int sampleEdge = RisingEdge;
     int storageSize = 1024;
     int segmentNumber = 1;
-    int captureAmount = 1024;
     int triggerPosition = 0;
-    int captureImplementation = BsramImplementation;
     bool forceTriggerByFallingEdge = false;
-    bool captureInitialData = false;
-    QList<SignalItem> allCapSignals;
-    QList<SignalItem> dataSignals;
-    QString moduleName;
-    ForeignXml foreign;
-    ForeignXml foreignOfRoot;
 };
 
-AoCore::Private::Private(int coreIndex, AoCore *core)
-    : index(coreIndex)
+AoCore::Private::Private(AoCore *core)
 {
     for (int i = 0; i < TriggerPortsPerCore; ++i)
         ports.append(new TriggerPort(i));
@@ -54,21 +42,12 @@ AoCore::Private::~Private()
 }
 
 AoCore::AoCore(int index)
-    : d(std::make_unique<Private>(index, this))
+    : AnalyzerCore(index)
+    , d(std::make_unique<Private>(this))
 {
 }
 
 AoCore::~AoCore() = default;
-
-int AoCore::index() const
-{
-    return d->index;
-}
-
-void AoCore::setIndex(int index)
-{
-    d->index = index;
-}
 
 QList<TriggerPort *> AoCore::allTriggers() const
 {
@@ -136,26 +115,6 @@ void AoCore::setTriggerImplementation(int implementation)
     d->triggerImplementation = implementation;
 }
 
-QString AoCore::sampleClock() const
-{
-    return d->sampleClock;
-}
-
-void AoCore::setSampleClock(const QString &name)
-{
-    d->sampleClock = name;
-}
-
-int AoCore::sampleEdge() const
-{
-    return d->sampleEdge;
-}
-
-void AoCore::setSampleEdge(int edge)
-{
-    d->sampleEdge = edge;
-}
-
 int AoCore::storageSize() const
 {
     return d->storageSize;
@@ -176,16 +135,6 @@ void AoCore::setSegmentNumber(int segments)
     d->segmentNumber = segments;
 }
 
-int AoCore::captureAmount() const
-{
-    return d->captureAmount;
-}
-
-void AoCore::setCaptureAmount(int samples)
-{
-    d->captureAmount = samples;
-}
-
 int AoCore::triggerPosition() const
 {
     return d->triggerPosition;
@@ -194,16 +143,6 @@ int AoCore::triggerPosition() const
 void AoCore::setTriggerPosition(int samples)
 {
     d->triggerPosition = samples;
-}
-
-int AoCore::captureImplementation() const
-{
-    return d->captureImplementation;
-}
-
-void AoCore::setCaptureImplementation(int implementation)
-{
-    d->captureImplementation = implementation;
 }
 
 bool AoCore::forceTriggerByFallingEdge() const
@@ -216,64 +155,9 @@ void AoCore::setForceTriggerByFallingEdge(bool on)
     d->forceTriggerByFallingEdge = on;
 }
 
-bool AoCore::captureInitialData() const
-{
-    return d->captureInitialData;
-}
-
-void AoCore::setCaptureInitialData(bool on)
-{
-    d->captureInitialData = on;
-}
-
-QList<SignalItem> AoCore::getallCapSignal() const
-{
-    return d->allCapSignals;
-}
-
-void AoCore::setallCapSignal(const QList<SignalItem> &signalItems)
-{
-    d->allCapSignals = signalItems;
-}
-
-QList<SignalItem> AoCore::getDataSignal() const
-{
-    return d->dataSignals;
-}
-
 void AoCore::setDataSignal(const QList<SignalItem> &signalItems)
 {
-    d->dataSignals = signalItems;
-}
-
-QString AoCore::moduleName() const
-{
-    return d->moduleName;
-}
-
-void AoCore::setModuleName(const QString &name)
-{
-    d->moduleName = name;
-}
-
-ForeignXml AoCore::foreign() const
-{
-    return d->foreign;
-}
-
-void AoCore::setForeign(const ForeignXml &foreign)
-{
-    d->foreign = foreign;
-}
-
-ForeignXml AoCore::foreignOfRoot() const
-{
-    return d->foreignOfRoot;
-}
-
-void AoCore::setForeignOfRoot(const ForeignXml &foreign)
-{
-    d->foreignOfRoot = foreign;
+    replaceDataSignals(signalItems);
 }
 
 } // namespace VAK

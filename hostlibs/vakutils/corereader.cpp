@@ -38,8 +38,7 @@ public:
 private:
     bool readChild(XmlElement &child, AoCore *core);
     bool readChild(XmlElement &child, AOCore_Lite *core);
-    template <class Core>
-    void readClock(XmlElement &element, Core *core);
+    void readClock(XmlElement &element, AnalyzerCore *core);
     void readCapture(XmlElement &element, AoCore *core);
     void readCapture(XmlElement &element, AOCore_Lite *core);
     QList<SignalItem> readCaptureSignals(XmlElement &element);
@@ -120,8 +119,7 @@ bool CoreReader::readChild(XmlElement &child, AOCore_Lite *core)
     return true;
 }
 
-template <class Core>
-void CoreReader::readClock(XmlElement &element, Core *core)
+void CoreReader::readClock(XmlElement &element, AnalyzerCore *core)
 {
     core->setSampleClock(element.text(QStringLiteral("net")));
     core->setSampleEdge(element.choice(QStringLiteral("edge"), edges()));

@@ -52,8 +52,7 @@ static void writeSignals(XmlWriter *writer, const QList<SignalItem> &signalItems
         writeSignal(writer, signal);
 }
 
-template <class Core>
-static void writeClock(XmlWriter *writer, const Core &core)
+static void writeClock(XmlWriter *writer, const AnalyzerCore &core)
 {
     const Attributes attributes = {{QStringLiteral("net"), core.sampleClock()},
                                    {QStringLiteral("edge"), word(edges(), core.sampleEdge())}};

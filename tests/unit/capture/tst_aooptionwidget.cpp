@@ -42,17 +42,17 @@ void VAK::AoCore::setTriggerMode(int mode)
     next<void (*)(AoCore *, int)>("_ZN3VAK6AoCore14setTriggerModeEi")(this, mode);
 }
 
-void VAK::AoCore::setSampleClock(const QString &name)
+void VAK::AnalyzerCore::setSampleClock(const QString &name)
 {
     coreCalls.append(QStringLiteral("setSampleClock"));
-    next<void (*)(AoCore *, const QString &)>("_ZN3VAK6AoCore14setSampleClockERK7QString")(this, name);
+    next<void (*)(AnalyzerCore *, const QString &)>("_ZN3VAK12AnalyzerCore14setSampleClockERK7QString")(this, name);
 }
 
-void VAK::AoCore::setallCapSignal(const QList<SignalItem> &signalItems)
+void VAK::AnalyzerCore::setallCapSignal(const QList<SignalItem> &signalItems)
 {
     coreCalls.append(QStringLiteral("setallCapSignal"));
-    next<void (*)(AoCore *, const QList<SignalItem> &)>("_ZN3VAK6AoCore15setallCapSignalERK5QListINS_10SignalItemEE")(
-        this, signalItems);
+    next<void (*)(AnalyzerCore *, const QList<SignalItem> &)>(
+        "_ZN3VAK12AnalyzerCore15setallCapSignalERK5QListINS_10SignalItemEE")(this, signalItems);
 }
 
 class tst_AoOptionWidget : public QObject
