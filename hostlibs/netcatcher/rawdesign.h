@@ -81,7 +81,7 @@ struct RawDesign
     std::vector<RawModule> modules;
     QHash<int, RawType> types;
     QVector<QByteArray> roots; ///< keys of modules that nothing instantiates
-    QVector<QByteArray> files; ///< all that were read, as the engine names them; `<...>` is none
+    QVector<QByteArray> files; ///< all that were read, as the engine names them
     QSet<QByteArray> remotely; ///< last names of what is referred to by a path, wherever that leads
 };
 

@@ -285,7 +285,7 @@ bool VerilatorEngine::hasReadOnlyGiven(const QVector<QByteArray> &files) const
     const QString folder = m_folder.path() + QLatin1Char('/');
     return std::all_of(files.cbegin(), files.cend(), [&](const QByteArray &name) {
         const QString path = QString::fromUtf8(relativeToFolder(name));
-        return path.startsWith(QLatin1Char('<')) || QDir::cleanPath(folder + path).startsWith(folder);
+        return QDir::isRelativePath(path) && QDir::cleanPath(folder + path).startsWith(folder);
     });
 }
 
