@@ -39,6 +39,8 @@ void TestNetlistGolden::listsTheNetsOf_data()
     QTest::newRow("generated") << QStringList{"generated.v"};
     for (const char *name : {"loops", "nettypes", "portstyles", "nested", "memories", "planes", "charge"})
         QTest::newRow(name) << QStringList{QString(name) + ".v"};
+    for (const char *name : {"arrays", "scopes", "links"})
+        QTest::newRow(name) << QStringList{QString(name) + ".sv"};
     QTest::newRow("types") << QStringList{"types.sv", "types_pkg.sv"};
     QTest::newRow("streams") << QStringList{"streams.sv"};
     QTest::newRow("boxed") << QStringList{"boxed.v"};
