@@ -117,6 +117,13 @@ bool BlackBoxes::learnWidth(const QString &pin, int width)
     return isNew;
 }
 
+bool BlackBoxes::learnArray(const QString &pin)
+{
+    const int before = m_arrays.size();
+    m_arrays.insert(pin.toUtf8());
+    return m_arrays.size() > before;
+}
+
 bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
 {
     static const QRegularExpression missing(
@@ -126,6 +133,9 @@ bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
     static const QRegularExpression width(
         QStringLiteral("^Input port connection '(.*)' as part of a module instance "
                        "array requires (\\d+) or (\\d+) bits.* generates (\\d+) bits"));
+    static const QRegularExpression array(
+        QStringLiteral("^Illegal input port connection '(.*)', mismatch between port which is not an array, and "
+                       "expression which is an array"));
     bool learned = false;
     for (const EngineMessage &message : messages) {
         QRegularExpressionMatch match = missing.match(message.text);
@@ -137,6 +147,9 @@ bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
         match = parameter.match(message.text);
         if (match.hasMatch())
             learned = learnParameter(match.captured(1)) || learned;
+        match = array.match(message.text);
+        if (match.hasMatch())
+            learned = learnArray(match.captured(1)) || learned;
         match = width.match(message.text);
         const int instances = match.captured(2).toInt() > 0 ? match.captured(3).toInt() / match.captured(2).toInt() : 0;
         if (instances > 0)
@@ -145,36 +158,38 @@ bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
     return learned;
 }
 
-static QByteArray joined(const QByteArray &prefix, QSet<QByteArray> names, int positional, const char *placeholder,
-                         const QByteArray &suffix)
+/// Stand-ins for what has no name, then the names in alphabetical order.
+static QList<QByteArray> declared(const QSet<QByteArray> &names, int positional, const char *placeholder)
 {
     QList<QByteArray> all;
     for (int i = 0; i < positional; ++i)
-        all.append(prefix + placeholder + QByteArray::number(i) + suffix);
+        all.append(placeholder + QByteArray::number(i));
     QList<QByteArray> sorted = names.values();
     std::sort(sorted.begin(), sorted.end());
-    for (const QByteArray &name : qAsConst(sorted))
-        all.append(prefix + written(name) + suffix);
-    return all.join(", ");
+    return all + sorted;
+}
+
+QByteArray BlackBoxes::pinDeclaration(const QByteArray &name) const
+{
+    const int width = m_widths.value(name);
+    // An array of one scalar takes arrays of any type and size.
+    return "input wire " + (width > 0 ? '[' + QByteArray::number(width - 1) + ":0] " : QByteArray()) + written(name) +
+           (m_arrays.contains(name) ? " [0:0]" : "");
 }
 
 QByteArray BlackBoxes::standIn(const QByteArray &module, const ModuleUsage &usage) const
 {
-    QSet<QByteArray> narrow = usage.pins + m_common.pins;
-    QByteArray wide;
-    for (auto it = m_widths.cbegin(); it != m_widths.cend(); ++it) {
-        if (narrow.remove(it.key()))
-            wide += ", input wire [" + QByteArray::number(it.value() - 1) + ":0] " + written(it.key());
-    }
-    const QByteArray parameters =
-        joined("parameter ", usage.parameters + m_common.parameters,
-               qMax(usage.positionalParameters, m_common.positionalParameters), "vakparam", " = 0");
-    QByteArray pins =
-        joined("input wire ", narrow, qMax(usage.positionalPins, m_common.positionalPins), "vakpin", {}) + wide;
-    if (pins.startsWith(", "))
-        pins.remove(0, 2);
-    return "module " + written(module) + (parameters.isEmpty() ? QByteArray() : " #(" + parameters + ')') + " (" +
-           pins + ");\nendmodule\n";
+    QList<QByteArray> parameters =
+        declared(usage.parameters + m_common.parameters,
+                 qMax(usage.positionalParameters, m_common.positionalParameters), "vakparam");
+    for (QByteArray &parameter : parameters)
+        parameter = "parameter " + written(parameter) + " = 0";
+    QList<QByteArray> pins =
+        declared(usage.pins + m_common.pins, qMax(usage.positionalPins, m_common.positionalPins), "vakpin");
+    for (QByteArray &pin : pins)
+        pin = pinDeclaration(pin);
+    return "module " + written(module) + (parameters.isEmpty() ? QByteArray() : " #(" + parameters.join(", ") + ')') +
+           " (" + pins.join(", ") + ");\nendmodule\n";
 }
 
 static bool writeFile(const QString &path, const QByteArray &text)

@@ -48,11 +48,14 @@ private:
     bool learnPin(const QString &name);
     bool learnParameter(const QString &name);
     bool learnWidth(const QString &pin, int width);
+    bool learnArray(const QString &pin);
+    QByteArray pinDeclaration(const QByteArray &name) const;
     QByteArray standIn(const QByteArray &module, const ModuleUsage &usage) const;
 
     QMap<QByteArray, ModuleUsage> m_usages;
     ModuleUsage m_common; ///< pins and parameters that the engine missed somewhere: every stand-in gets them
     QMap<QByteArray, int> m_widths;
+    QSet<QByteArray> m_arrays;  ///< pins that unpacked arrays are connected to
     QSet<QByteArray> m_escaped; ///< modules whose names are no plain identifiers
     QByteArray m_wrapped;       ///< the top that needs a module around it
 };

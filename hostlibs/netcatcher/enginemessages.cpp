@@ -29,6 +29,8 @@ static const Advice advices[] = {
     {"Bad package link", "add the file that declares the package to the project"},
     {"Interfaced port on top level", "choose a module without interface ports as the top module"},
     {"Parent instance's interface is not found", "choose a module without interface ports as the top module"},
+    {"mismatch between port which is not an interface",
+     "only modules with source can have interface ports; add the file that declares the module"},
     {"--top-module", "set another top module"},
     {"instantiation recursion", "a module instantiates itself without end"},
     {"Recursive multiple modules", "modules instantiate each other without end"},
