@@ -38,6 +38,7 @@ static QHash<QStringView, Tag> makeTags()
         {u"assigndly", Tag::Assignment},
         {u"assigncont", Tag::Assignment},
         {u"assignforce", Tag::Assignment},
+        {u"pull", Tag::Pull},
         // What may write to the variables that it is given.
         {u"taskref", Tag::Call},
         {u"funcref", Tag::Call},
@@ -70,6 +71,10 @@ static QHash<QStringView, Tag> makeTags()
         {u"replicate", Tag::Joining},
         {u"extend", Tag::Joining},
         {u"extends", Tag::Joining},
+        // What the engine makes of `enable ? 1'b0 : 1'bz` and its like.
+        {u"and", Tag::Joining},
+        {u"or", Tag::Joining},
+        {u"bufif1", Tag::TristateGate},
         {u"basicdtype", Tag::BasicType},
         {u"refdtype", Tag::AliasType},
         {u"enumdtype", Tag::AliasType},

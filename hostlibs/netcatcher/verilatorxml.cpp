@@ -163,6 +163,10 @@ void Reader::inheritExpression(Frame &frame, const Frame &parent)
         if (parent.access == Access::Write && position > 0)
             frame.access = Access::Read;
         break;
+    case Tag::Pull:
+        frame.access = Access::Write;
+        frame.writeUses = UseDrivenConstant;
+        break;
     case Tag::Call:
         frame.access = Access::Unknown;
         break;
@@ -226,6 +230,9 @@ void Reader::enter(Frame &frame)
         break;
     case Tag::Call:
         constantAssigned = false;
+        break;
+    case Tag::TristateGate:
+        tristateAssigned = true;
         break;
     case Tag::VariableReference:
         addReference(frame);

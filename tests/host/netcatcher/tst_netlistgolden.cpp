@@ -37,7 +37,7 @@ void TestNetlistGolden::listsTheNetsOf_data()
     QTest::newRow("vectors") << QStringList{"vectors.v"};
     QTest::newRow("usable") << QStringList{"usable.v"};
     QTest::newRow("generated") << QStringList{"generated.v"};
-    for (const char *name : {"loops", "nettypes", "portstyles", "nested", "memories", "planes", "charge"})
+    for (const char *name : {"loops", "nettypes", "portstyles", "nested", "memories", "planes", "charge", "pads"})
         QTest::newRow(name) << QStringList{QString(name) + ".v"};
     for (const char *name : {"arrays", "scopes", "links"})
         QTest::newRow(name) << QStringList{QString(name) + ".sv"};
