@@ -66,6 +66,14 @@ void BlackBoxes::learn(const HdlScan &scan)
     m_common.parameters.unite(scan.defparams);
 }
 
+void BlackBoxes::standInForEscaped(const QVector<QByteArray> &declared)
+{
+    for (auto it = m_usages.cbegin(); it != m_usages.cend(); ++it) {
+        if (!isPlainName(it.key()) && !declared.contains(it.key()))
+            m_escaped.insert(it.key());
+    }
+}
+
 /// The number in `__pinNumber3`, the engine's name for the third connection without a name; 0 for any other text.
 static int positionIn(const QString &name, const char *prefix)
 {

@@ -36,6 +36,9 @@ public:
     bool wrapsTop() const { return !m_wrapped.isEmpty(); }
     /// Takes over how the sources use modules that they do not declare.
     void learn(const HdlScan &scan);
+    /// Gives a stand-in to every escaped name that is used and not `declared`. The engine would look for a file of that
+    /// name otherwise, which may be a path to anywhere.
+    void standInForEscaped(const QVector<QByteArray> &declared);
     /// Takes over what the engine missed; false when there was nothing new in it.
     bool learn(const QVector<EngineMessage> &messages);
     /// Writes the stand-ins below `folder`; false when that fails.

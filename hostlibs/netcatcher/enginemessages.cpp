@@ -3,11 +3,13 @@
 
 #include "enginemessages.h"
 
+#include "engineprocess.h"
 #include "privatefolder.h"
 
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <csignal>
 #include <iterator>
 
 namespace NETCATCHER {
@@ -33,8 +35,36 @@ static const Advice advices[] = {
      "only modules with source can have interface ports; add the file that declares the module"},
     {"--top-module", "set another top module"},
     {"instantiation recursion", "a module instantiates itself without end"},
+    {"--module-recursion-depth", "a module instantiates itself without end"},
     {"Recursive multiple modules", "modules instantiate each other without end"},
+    {"Recursive inclusion of file", "a file includes itself; guard it with `ifndef"},
+    {"Too many preprocessor tokens on a line", "break the line, or check the macros in it"},
+    {"memory exhausted", "expressions or blocks are nested too deep; name their parts"},
     {"Internal Error", "the Verilog engine failed here; set the top module, or disable the file that it names"},
+};
+
+/// What to try when the design as a whole is too much.
+static const char smallerTop[] = "set the top module to a part of the design";
+
+namespace {
+
+struct Ending
+{
+    int signal;
+    const char *text; ///< %1 is the number of the signal
+};
+
+} // namespace
+
+/// Signals that tell more than that the engine failed.
+static const Ending endings[] = {
+    {SIGKILL, "The Verilog engine was killed (signal %1), as the system does when memory runs out; close other "
+              "programs, or set the top module to a part of the design."},
+    {SIGTERM, "The Verilog engine was ended from outside (signal %1); read the design again."},
+    {SIGINT, "The Verilog engine was ended from outside (signal %1); read the design again."},
+    {SIGHUP, "The Verilog engine was ended from outside (signal %1); read the design again."},
+    {0, "The Verilog engine crashed. Set the top module, or disable files one by one to find what it cannot read; a "
+        "module that instantiates itself without end is a usual cause."},
 };
 
 /// Remarks that only repeat what other lines say.
@@ -51,10 +81,27 @@ static bool isRemark(const QString &text)
                        [&text](const char *remark) { return text.startsWith(QLatin1String(remark)); });
 }
 
+static bool isInternal(const EngineMessage &message)
+{
+    return message.text.startsWith(QLatin1String("Internal Error"));
+}
+
+/// Where a source has errors, the engine's complaints about itself are of no use.
+static void removeAftermath(QVector<EngineMessage> &messages)
+{
+    const bool hasCause = std::any_of(messages.cbegin(), messages.cend(), [](const EngineMessage &message) {
+        return message.isError && !isInternal(message);
+    });
+    if (hasCause)
+        messages.erase(std::remove_if(messages.begin(), messages.end(), isInternal), messages.end());
+}
+
 QVector<EngineMessage> parseEngineMessages(const QByteArray &output)
 {
     static const QRegularExpression line(QStringLiteral("^%(Error|Warning)(?:-(\\w+))?: (.*)$"));
-    static const QRegularExpression place(QStringLiteral("^(Internal Error: )?(vak.+?):(\\d+):(?:\\d+:)? (.*)$"));
+    // Beside plain names there are the absolute ones of some includes, and whatever a `line directive says.
+    static const QRegularExpression place(
+        QStringLiteral("^(Internal Error: )?(vak.+?|[^\\s:'\"]+):(\\d+):(?:\\d+:)? (.*)$"));
     static const QRegularExpression ownSource(QStringLiteral("\\.\\./\\w+\\.(?:cpp|h):\\d+: "));
     QVector<EngineMessage> messages;
     const QStringList lines = QString::fromUtf8(output).split(QLatin1Char('\n'));
@@ -65,17 +112,17 @@ QVector<EngineMessage> parseEngineMessages(const QByteArray &output)
         EngineMessage message;
         message.isError = match.captured(1) == QLatin1String("Error");
         message.code = match.captured(2);
-        message.text = match.captured(3);
+        message.text = match.captured(3).remove(ownSource);
         const QRegularExpressionMatch located = place.match(message.text);
         if (located.hasMatch()) {
             message.file = located.captured(2);
             message.line = located.captured(3).toInt();
             message.text = located.captured(1) + located.captured(4);
         }
-        message.text.remove(ownSource);
         if (!isRemark(message.text))
             messages.append(message);
     }
+    removeAftermath(messages);
     return messages;
 }
 
@@ -91,6 +138,42 @@ QString userMessage(const EngineMessage &message, const PrivateFolder &folder)
             return result + QLatin1String(" (") + QLatin1String(each.advice) + QLatin1Char(')');
     }
     return result;
+}
+
+/// The first line of what a program said that is not in the form of the engine's messages: the system's own, mostly.
+static QString firstWords(const QByteArray &output)
+{
+    constexpr int maxLength = 200;
+    const QStringList lines = QString::fromUtf8(output).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return lines.isEmpty() ? QString() : lines.constFirst().simplified().left(maxLength);
+}
+
+static QString endingText(int signal)
+{
+    const auto found = std::find_if(std::begin(endings), std::end(endings), [signal](const Ending &ending) {
+        return ending.signal == signal || ending.signal == 0;
+    });
+    return QString(QLatin1String(found->text)).replace(QLatin1String("%1"), QString::number(signal));
+}
+
+QString failureMessage(const EngineResult &result, const EngineLimits &limits, bool hasErrors)
+{
+    const QLatin1String advice(smallerTop);
+    if (result.outcome == EngineResult::TimedOut)
+        return QStringLiteral("The Verilog engine did not finish within %1 seconds and was ended; %2.")
+            .arg(QString::number(limits.milliseconds / 1000), advice);
+    if (result.messages.contains("bad_alloc") || result.messages.contains("Out of memory"))
+        return QStringLiteral("The Verilog engine ran out of memory; %1.").arg(advice);
+    if (result.outcome == EngineResult::Crashed && result.exitCode == SIGXFSZ)
+        return QStringLiteral("The result of the Verilog engine exceeds the limit of %1 bytes; %2.")
+            .arg(QString::number(limits.fileBytes), advice);
+    if (result.outcome == EngineResult::Crashed)
+        return endingText(result.exitCode);
+    if (hasErrors)
+        return {};
+    const QString words = firstWords(result.messages);
+    return words.isEmpty() ? QStringLiteral("The Verilog engine failed without saying why.")
+                           : QStringLiteral("The Verilog engine failed: %1").arg(words);
 }
 
 } // namespace NETCATCHER

@@ -10,6 +10,8 @@
 namespace NETCATCHER {
 
 class PrivateFolder;
+struct EngineLimits;
+struct EngineResult;
 
 /// One message of the Verilog engine.
 struct EngineMessage
@@ -21,11 +23,15 @@ struct EngineMessage
     QString text;
 };
 
-/// The messages in the engine's output, without its quotations of source lines and its closing remarks.
+/// The messages in the engine's output, without its quotations of source lines, its closing remarks, and complaints
+/// about itself that follow from an error in the sources.
 QVector<EngineMessage> parseEngineMessages(const QByteArray &output);
 
 /// The message as users see it: "ERROR: FILE:LINE: text" or "WARNING: ...", with their own paths and, where it is
 /// known, what to do about it.
 QString userMessage(const EngineMessage &message, const PrivateFolder &folder);
+
+/// What users are told about an engine that did not succeed, without "ERROR: "; empty when its own messages suffice.
+QString failureMessage(const EngineResult &result, const EngineLimits &limits, bool hasErrors);
 
 } // namespace NETCATCHER

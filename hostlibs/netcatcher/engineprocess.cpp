@@ -13,6 +13,8 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <linux/close_range.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -26,6 +28,10 @@ constexpr int maxMessageBytes = 64 << 20;
 /// Enough for expressions nested thousands deep; a module that instantiates itself should not take long to fail,
 /// though.
 constexpr rlim_t stackBytes = rlim_t(8) << 20;
+/// Kernels before 5.11 take them one by one; more are never open in practice.
+constexpr rlim_t maxDescriptors = 65536;
+/// What the child exits with when it cannot be confined.
+constexpr int unconfinedStatus = 125;
 
 namespace {
 
@@ -40,6 +46,8 @@ public:
     {
     }
 
+    bool isConfined() const { return sandbox.isOffered(); }
+
 protected:
     /// Runs in the child between fork and exec: only calls that are safe there.
     void setupChildProcess() override
@@ -51,8 +59,11 @@ protected:
         limit(RLIMIT_FSIZE, limits.fileBytes);
         limit(RLIMIT_CORE, 0);
         limit(RLIMIT_STACK, stackBytes);
+        // A signal that this program ignores would be ignored there, too, and a result be cut off without a word.
+        signal(SIGXFSZ, SIG_DFL);
+        closeOnExec();
         if (sandbox.isOffered() && !sandbox.enter())
-            _exit(127);
+            _exit(unconfinedStatus);
     }
 
 private:
@@ -62,6 +73,19 @@ private:
         getrlimit(resource, &current);
         current.rlim_cur = std::min(value, current.rlim_max);
         setrlimit(resource, &current);
+    }
+
+    /// Keeps what other parts of this program have open from the engine.
+    static void closeOnExec()
+    {
+        constexpr int firstOther = 3;
+        if (close_range(firstOther, ~0u, CLOSE_RANGE_CLOEXEC) == 0)
+            return;
+        rlimit open{};
+        getrlimit(RLIMIT_NOFILE, &open);
+        const int end = int(std::min(open.rlim_cur, maxDescriptors));
+        for (int i = firstOther; i < end; ++i)
+            fcntl(i, F_SETFD, FD_CLOEXEC);
     }
 
     const EngineLimits limits;
@@ -119,6 +143,7 @@ EngineResult runEngine(const QString &program, const QStringList &arguments, con
     qCDebug(engineLog) << program << arguments;
     process.start(program, arguments, QIODevice::ReadOnly);
     EngineResult result;
+    result.isConfined = process.isConfined();
     if (!process.waitForStarted())
         return result;
     if (!waitForEnd(process, limits.milliseconds, result.messages, idle)) {
@@ -127,8 +152,13 @@ EngineResult runEngine(const QString &program, const QStringList &arguments, con
         result.outcome = EngineResult::TimedOut;
         return result;
     }
-    result.outcome = process.exitStatus() == QProcess::CrashExit ? EngineResult::Crashed : EngineResult::Finished;
     result.exitCode = process.exitCode();
+    if (process.exitStatus() == QProcess::CrashExit)
+        result.outcome = EngineResult::Crashed;
+    else if (result.isConfined && result.exitCode == unconfinedStatus)
+        result.outcome = EngineResult::Unconfined;
+    else
+        result.outcome = EngineResult::Finished;
     return result;
 }
 

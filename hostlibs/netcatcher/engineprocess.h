@@ -26,13 +26,15 @@ struct EngineResult
     enum Outcome {
         Finished,   ///< by itself, with or without success
         NotStarted, ///< the program is missing or cannot be run
-        Crashed,
+        Unconfined, ///< the kernel offers Landlock, but did not let the program be confined; it was not run
+        Crashed,    ///< ended by a signal
         TimedOut,
     };
 
     Outcome outcome = NotStarted;
-    int exitCode = -1;
-    QByteArray messages; ///< what it wrote to its standard channels
+    int exitCode = -1;       ///< the signal's number when it crashed
+    bool isConfined = false; ///< by Landlock
+    QByteArray messages;     ///< what it wrote to its standard channels
 };
 
 /// Runs an engine in `folder`: without a shell, in a small environment, within limits, never longer than this process

@@ -6,6 +6,9 @@
 namespace NETCATCHER {
 
 constexpr std::size_t maxIncludeDepth = 64;
+/// Of one source. Files that include each other twice each would keep the scan busy for ages.
+constexpr int maxIncludes = 4096;
+constexpr qint64 maxIncludedBytes = 64 << 20;
 
 HdlScanner::HdlScanner(const QStringList &defines, OpenInclude openInclude)
     : m_macros{"SYNTHESIS"}
@@ -18,6 +21,8 @@ HdlScanner::HdlScanner(const QStringList &defines, OpenInclude openInclude)
 HdlScan HdlScanner::scan(const HdlText &source)
 {
     m_result = HdlScan();
+    m_includes = 0;
+    m_includedBytes = 0;
     m_putBack.clear();
     m_texts.clear();
     m_texts.push_back({HdlLexer(source.text), source.origin});
@@ -117,10 +122,15 @@ void HdlScanner::skipBranch(bool stopAtElse)
 void HdlScanner::include()
 {
     const HdlToken name = m_texts.back().lexer.next();
-    if (name.kind != HdlToken::Text || m_texts.size() > maxIncludeDepth)
+    if (name.kind != HdlToken::Text || m_texts.size() > maxIncludeDepth || m_includes >= maxIncludes ||
+        m_includedBytes > maxIncludedBytes)
         return;
-    if (const std::optional<HdlText> found = m_openInclude(name.text, m_texts.back().origin))
-        m_texts.push_back({HdlLexer(found->text), found->origin});
+    const std::optional<HdlText> found = m_openInclude(name.text, m_texts.back().origin);
+    if (!found)
+        return;
+    ++m_includes;
+    m_includedBytes += found->text.size();
+    m_texts.push_back({HdlLexer(found->text), found->origin});
 }
 
 void HdlScanner::keyword(const QByteArray &word)

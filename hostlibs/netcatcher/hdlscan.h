@@ -84,7 +84,9 @@ private:
     OpenInclude m_openInclude;
     std::vector<OpenText> m_texts; ///< the innermost include last
     std::vector<HdlToken> m_putBack;
-    QByteArray m_lastWord; ///< the token before, when it was an identifier
+    int m_includes = 0;         ///< that were opened for the source being scanned
+    qint64 m_includedBytes = 0; ///< what they held
+    QByteArray m_lastWord;      ///< the token before, when it was an identifier
     HdlScan m_result;
 };
 

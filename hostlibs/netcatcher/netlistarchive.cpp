@@ -120,7 +120,6 @@ QByteArray writeArchive(const QByteArray &key, const ReadManifest &manifest, con
     body.putTexts(result.tops);
     body.putTexts(result.modules);
     body.putTexts(result.messages);
-    body.putTexts(result.tableWarnings);
     body.putByte(result.table ? 1 : 0);
     if (result.table)
         putTable(*result.table, body);
@@ -142,7 +141,6 @@ std::optional<ReadResult> readArchive(const QByteArray &bytes, const QByteArray 
     result.tops = in.takeTexts();
     result.modules = in.takeTexts();
     result.messages = in.takeTexts();
-    result.tableWarnings = in.takeTexts();
     if (in.takeByte() != 0)
         result.table = takeTable(in);
     if (!in.isGood() || !in.isAtEnd())

@@ -11,7 +11,9 @@
 #include "verilatorengine.h"
 #include "verilatorxml.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -50,7 +52,15 @@ void NetlistBuilder::setLimits(const EngineLimits &limits)
 bool NetlistBuilder::analyse(const ProgressFunction &progress)
 {
     m_isAnalysed = true;
-    const ProgressFunction report = orNothing(progress);
+    const bool isRead = findOrRead(orNothing(progress));
+    // This is about the run, not about the design, and is not kept with it.
+    if (m_isUnconfined)
+        m_read.messages.append(VerilatorEngine::unconfinedWarning());
+    return isRead;
+}
+
+bool NetlistBuilder::findOrRead(const ProgressFunction &report)
+{
     const auto hashing = [&report] { report({BuildProgress::ReadingSources, 0, 0}); };
     ReadManifest manifest(hashing);
     const NetlistCache cache;
@@ -107,6 +117,7 @@ bool NetlistBuilder::runEngine(const ProgressFunction &progress, ReadManifest &m
     VerilatorEngine engine(sources, m_limits, progress, manifest);
     const VerilatorEngine::Outcome outcome = engine.run();
     m_read.messages = engine.messages();
+    m_isUnconfined = engine.isUnconfined();
     m_genvars = engine.genvars();
     if (outcome == VerilatorEngine::Failed ||
         (outcome == VerilatorEngine::Done && !readResult(engine.xmlPath(), progress)))
@@ -123,12 +134,17 @@ bool NetlistBuilder::runEngine(const ProgressFunction &progress, ReadManifest &m
 bool NetlistBuilder::readResult(const QString &xmlPath, const ProgressFunction &progress)
 {
     QFile file(xmlPath);
-    QString error = file.errorString();
+    QString error = QStringLiteral("there is none");
     const auto report = [&](qint64 bytes) { progress({BuildProgress::ReadingResult, bytes, file.size()}); };
-    if (file.open(QIODevice::ReadOnly) && readVerilatorXml(file, m_design, report, &error))
+    if (QFileInfo(xmlPath).isFile() && file.open(QIODevice::ReadOnly) &&
+        readVerilatorXml(file, m_design, report, &error))
         return true;
     m_design = RawDesign();
-    m_read.messages.append(QStringLiteral("ERROR: The result of the Verilog engine cannot be read: %1").arg(error));
+    // The engine does not notice when it cannot write.
+    m_read.messages.append(
+        QStringLiteral("ERROR: The result of the Verilog engine cannot be read: %1 (check that there is "
+                       "room left in %2)")
+            .arg(error, QDir::tempPath()));
     return false;
 }
 
@@ -192,7 +208,7 @@ void NetlistBuilder::expandTop(const ProgressFunction &progress)
         options.top = key;
         options.isBlackBox = isBlackBox;
         options.genvars = m_genvars;
-        m_read.table = expandDesign(m_design, options, &m_read.tableWarnings);
+        m_read.table = expandDesign(m_design, options, &m_read.messages);
     }
     m_design = RawDesign();
 }
@@ -213,7 +229,6 @@ std::unique_ptr<RtlNetlist> NetlistBuilder::build(QString *error, const Progress
         return nullptr;
     }
     orNothing(progress)({BuildProgress::BuildingNetlist, 0, 0});
-    m_read.messages += m_read.tableWarnings;
     auto data = std::make_unique<RtlNetlist::Data>();
     data->store = NetStore::build(std::move(*m_read.table), error);
     m_read.table.reset();

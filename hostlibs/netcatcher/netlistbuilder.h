@@ -52,6 +52,7 @@ public:
     std::unique_ptr<RtlNetlist> build(QString *error, const ProgressFunction &progress = {});
 
 private:
+    bool findOrRead(const ProgressFunction &report);
     bool readSources(const ProgressFunction &progress, ReadManifest &manifest);
     bool readResult(const QString &xmlPath, const ProgressFunction &progress);
     bool runEngine(const ProgressFunction &progress, ReadManifest &manifest);
@@ -69,6 +70,7 @@ private:
     QSet<QByteArray> m_genvars;
     bool m_isAnalysed = false;
     bool m_isCached = true;
+    bool m_isUnconfined = false; ///< whether the engine ran without Landlock
 };
 
 } // namespace NETCATCHER

@@ -8,12 +8,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QRegularExpression>
 
 namespace NETCATCHER {
 
-/// Sources lie this deep, so that an include of `../common/x.vh` stays inside the private folder.
-static const char depth[] = "/u/u/u/u";
+/// Sources lie this deep, so that an include of `../common/x.vh` stays below its plain folder. The engine itself works
+/// as deep again: it tries such a name from there, too, and would find other people's files beside the private folder.
+static const char depth[] = "/u/u/u/u/u/u/u/u/u/u/u/u/u/u/u/u";
 
 /// The folder for temporary files, unless its own name could be misread by an engine.
 static QString plainTemporaryFolder()
@@ -27,6 +29,12 @@ PrivateFolder::PrivateFolder(ReadManifest &manifest)
     : m_manifest(manifest)
     , m_folder(plainTemporaryFolder() + QStringLiteral("/rtlvak-XXXXXX"))
 {
+    m_isValid = m_folder.isValid() && QDir().mkpath(path());
+}
+
+QString PrivateFolder::path() const
+{
+    return m_folder.path() + QLatin1String(depth);
 }
 
 bool PrivateFolder::link(const QString &target, const QString &plainName)
@@ -86,11 +94,20 @@ bool PrivateFolder::makeCopy(const QString &plainName)
     return QFile::remove(place) && QFile::copy(target, place);
 }
 
+/// Where the file system leads; above the root there is the root again.
+static QString placeOf(const QString &folder, const QString &name)
+{
+    QString path = QDir::cleanPath(QDir(folder).absoluteFilePath(name));
+    while (path.startsWith(QLatin1String("/../")))
+        path.remove(0, 3);
+    return path;
+}
+
 std::optional<QString> PrivateFolder::addIncludeFrom(const QString &userFolder, const QString &plainFolder,
                                                      const QString &name)
 {
     const QString plainName = QDir::cleanPath(plainFolder + QLatin1Char('/') + name);
-    const QString original = QDir::cleanPath(userFolder + QLatin1Char('/') + name);
+    const QString original = placeOf(userFolder, name);
     if (!plainName.startsWith(QLatin1String("vak")))
         return {};
     m_manifest.look(original);
@@ -113,6 +130,18 @@ std::optional<QString> PrivateFolder::addInclude(const QString &includer, const 
     for (int i = 0; !found && i < m_includeFolders.size(); ++i)
         found = addIncludeFrom(m_includeFolders[i], includeFolder(i), name);
     return found;
+}
+
+QString PrivateFolder::irregularInclude(const QString &includer, const QString &name) const
+{
+    const QStringList folders = QStringList(QFileInfo(userPath(includer)).absolutePath()) + m_includeFolders;
+    for (const QString &folder : folders) {
+        const QString place = placeOf(folder, name); // an absolute name leaves the folder aside
+        const QFileInfo info(place);
+        if (info.exists() && !info.isFile() && !info.isDir() && place != QProcess::nullDevice())
+            return place;
+    }
+    return {};
 }
 
 QString PrivateFolder::userPath(const QString &plainName) const

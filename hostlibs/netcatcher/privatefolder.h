@@ -23,9 +23,9 @@ public:
     /// `manifest` takes note of every place of the user's that is looked at.
     explicit PrivateFolder(ReadManifest &manifest);
 
-    bool isValid() const { return m_folder.isValid(); }
-    QString path() const { return m_folder.path(); }
-    QString filePath(const QString &plainName) const { return m_folder.filePath(plainName); }
+    bool isValid() const { return m_isValid; }
+    QString path() const;
+    QString filePath(const QString &plainName) const { return path() + QLatin1Char('/') + plainName; }
 
     /// Links a source file and answers its plain name, relative to the folder; empty when that fails. Files of one
     /// folder of the user's get into one folder here, so that they find each other's includes.
@@ -37,6 +37,9 @@ public:
     /// Copies what the file with plain name `includer` includes as `name`: the file beside it, or the one in the first
     /// include folder that has it. Answers its plain name; nothing when there is none.
     std::optional<QString> addInclude(const QString &includer, const QString &name);
+
+    /// The pipe, device or socket that such an include would open; empty when there is none.
+    QString irregularInclude(const QString &includer, const QString &name) const;
 
     /// The user's path behind a plain name; the name itself when there is none.
     QString userPath(const QString &plainName) const;
@@ -51,6 +54,7 @@ private:
 
     ReadManifest &m_manifest;
     QTemporaryDir m_folder;
+    bool m_isValid = false;
     QHash<QString, QString> m_folders;  ///< user's folder to plain folder of sources
     QStringList m_includeFolders;       ///< the user's
     QMap<QString, QString> m_userPaths; ///< plain name to user's path

@@ -18,7 +18,6 @@ struct ReadResult
     QStringList modules;
     QStringList messages;             ///< lines that begin with "ERROR" or "WARNING"
     std::optional<ModuleTable> table; ///< of the only top; none when there are several
-    QStringList tableWarnings;        ///< lines about what the table leaves out
 };
 
 } // namespace NETCATCHER

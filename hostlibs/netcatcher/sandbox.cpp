@@ -3,6 +3,7 @@
 
 #include "sandbox.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <fcntl.h>
@@ -45,7 +46,7 @@ static quint64 writingRights(long version)
 
 static long createRuleSet(long version)
 {
-    RuleSetAttributes attributes{writingRights(version), 0, 0};
+    RuleSetAttributes attributes{writingRights(version) | LANDLOCK_ACCESS_FS_READ_FILE, 0, 0};
     std::size_t size = sizeof attributes.handledFiles;
     if (version >= 4) {
         attributes.handledNetwork = bindAndConnect;
@@ -58,9 +59,9 @@ static long createRuleSet(long version)
     return syscall(SYS_landlock_create_ruleset, &attributes, size, 0);
 }
 
-static bool allow(int ruleSet, const QByteArray &path, quint64 rights)
+static bool allow(int ruleSet, const QString &path, quint64 rights)
 {
-    const int place = open(path.constData(), O_PATH | O_CLOEXEC);
+    const int place = open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
     landlock_path_beneath_attr rule{};
     rule.allowed_access = rights;
     rule.parent_fd = place;
@@ -71,16 +72,31 @@ static bool allow(int ruleSet, const QByteArray &path, quint64 rights)
     return isDone;
 }
 
+/// Lets everything be read but devices, which may never end, and what the kernel tells about processes: a source can
+/// include a file by its absolute path. What cannot be opened here cannot be read later either.
+static void allowReading(int ruleSet)
+{
+    static const QStringList closed{QStringLiteral("dev"), QStringLiteral("proc"), QStringLiteral("sys")};
+    const QStringList names = QDir::root().entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    for (const QString &name : names) {
+        if (!closed.contains(name))
+            allow(ruleSet, QLatin1Char('/') + name, LANDLOCK_ACCESS_FS_READ_FILE);
+    }
+    allow(ruleSet, QStringLiteral("/dev/shm"), LANDLOCK_ACCESS_FS_READ_FILE);
+}
+
 Sandbox::Sandbox(const QString &writableFolder)
 {
     const long version = syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1)
         return;
     m_ruleSet = int(createRuleSet(version));
-    const bool isComplete = m_ruleSet >= 0 &&
-                            allow(m_ruleSet, QFile::encodeName(writableFolder), writingRights(version)) &&
-                            allow(m_ruleSet, "/dev/null", LANDLOCK_ACCESS_FS_WRITE_FILE);
-    if (!isComplete && m_ruleSet >= 0) {
+    const bool isComplete =
+        m_ruleSet >= 0 && allow(m_ruleSet, writableFolder, writingRights(version) | LANDLOCK_ACCESS_FS_READ_FILE) &&
+        allow(m_ruleSet, QStringLiteral("/dev/null"), LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_WRITE_FILE);
+    if (isComplete) {
+        allowReading(m_ruleSet);
+    } else if (m_ruleSet >= 0) {
         close(m_ruleSet);
         m_ruleSet = -1;
     }

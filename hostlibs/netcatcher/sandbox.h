@@ -7,8 +7,8 @@
 
 namespace NETCATCHER {
 
-/// A Landlock rule set that lets a process write in one folder only and use no network, whatever the kernel offers of
-/// that. It is made in the parent; the child only enters it.
+/// A Landlock rule set that lets a process write in one folder only, read neither devices nor the kernel's own files,
+/// and use no network, whatever the kernel offers of that. It is made in the parent; the child only enters it.
 class Sandbox
 {
 public:

@@ -40,6 +40,13 @@ QString VerilatorEngine::program()
     return QStandardPaths::findExecutable(QLatin1String(engineProgram));
 }
 
+QString VerilatorEngine::unconfinedWarning()
+{
+    return QStringLiteral("WARNING: This kernel offers no Landlock, so the Verilog engine runs without it and could "
+                          "write your files if a design exploited it; Linux 5.13 or later with Landlock enabled "
+                          "confines it");
+}
+
 QString VerilatorEngine::xmlPath() const
 {
     return m_folder.filePath(QStringLiteral("%1/%2.xml").arg(QLatin1String(resultFolder), QLatin1String(resultPrefix)));
@@ -48,6 +55,20 @@ QString VerilatorEngine::xmlPath() const
 void VerilatorEngine::addError(const QString &text)
 {
     m_messages.append(QLatin1String("ERROR: ") + text);
+}
+
+bool VerilatorEngine::hasErrors() const
+{
+    return std::any_of(m_messages.cbegin(), m_messages.cend(),
+                       [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); });
+}
+
+/// The engine takes such text for an empty file.
+static bool isWideText(const QString &path)
+{
+    QFile file(path);
+    const QByteArray mark = file.open(QIODevice::ReadOnly) ? file.read(2) : QByteArray();
+    return mark == "\xff\xfe" || mark == "\xfe\xff";
 }
 
 bool VerilatorEngine::linkSources()
@@ -63,10 +84,14 @@ bool VerilatorEngine::linkSources()
         if (file.language == SourceFile::Vhdl)
             m_messages.append(
                 QStringLiteral("WARNING: %1: VHDL is not read; its entities are black boxes").arg(file.path));
-        else if (!info.isFile())
+        else if (!info.exists())
             addError(QStringLiteral("%1: There is no such file.").arg(file.path));
+        else if (!info.isFile())
+            addError(QStringLiteral("%1: This is no regular file.").arg(file.path));
         else if (!info.isReadable())
             addError(QStringLiteral("%1: The file cannot be read.").arg(file.path));
+        else if (isWideText(file.path))
+            addError(QStringLiteral("%1: The file is UTF-16 text; save it as UTF-8.").arg(file.path));
         else if (const QString plainName = m_folder.addSource(file); !plainName.isEmpty())
             m_files.append(plainName);
         else
@@ -79,8 +104,7 @@ bool VerilatorEngine::linkSources()
         else
             m_folder.addIncludeFolder(path);
     }
-    return std::none_of(m_messages.cbegin(), m_messages.cend(),
-                        [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); });
+    return !hasErrors();
 }
 
 HdlText VerilatorEngine::openSource(int origin)
@@ -96,8 +120,14 @@ HdlText VerilatorEngine::openSource(int origin)
 std::optional<HdlText> VerilatorEngine::openInclude(const QByteArray &name, int origin)
 {
     const std::optional<QString> found = m_folder.addInclude(m_files[origin], QString::fromUtf8(name));
-    if (!found)
+    if (!found) {
+        // The engine would wait for a pipe's other end, or read a device without end.
+        const QString place = m_folder.irregularInclude(m_files[origin], QString::fromUtf8(name));
+        if (!place.isEmpty())
+            addError(QStringLiteral("%1: The included %2 is no regular file.")
+                         .arg(m_folder.userPath(m_files[origin]), place));
         return {};
+    }
     m_files.append(*found);
     return openSource(m_files.size() - 1);
 }
@@ -122,6 +152,7 @@ void VerilatorEngine::scanSources()
             m_all.usages.insert(it.key(), it.value());
         m_blackBoxes.learn(scans[i]);
     }
+    m_blackBoxes.standInForEscaped(m_all.modules);
     m_order = packageOrder(scans);
     // Only a name that was read from a source is written into one.
     const QByteArray top = m_sources.top.toUtf8();
@@ -217,19 +248,11 @@ VerilatorEngine::Outcome VerilatorEngine::judge(const EngineResult &result, cons
     }
     if (result.outcome == EngineResult::Finished && result.exitCode == 0)
         return Done;
-    if (result.outcome == EngineResult::TimedOut)
-        addError(QStringLiteral("The Verilog engine did not finish within %1 seconds and was ended.")
-                     .arg(m_limits.milliseconds / 1000));
-    else if (result.messages.contains("bad_alloc") || result.messages.contains("Out of memory"))
-        addError(QStringLiteral("The Verilog engine ran out of memory; set the top module to a part of the design."));
-    else if (result.outcome == EngineResult::Crashed)
-        addError(
-            QStringLiteral("The Verilog engine crashed. Set the top module, or disable files one by one to find "
-                           "what it cannot read; a module that instantiates itself without end is a usual cause."));
-    else if (errors == 0 && special != Failed)
+    if (errors == 0 && special != Failed && result.outcome == EngineResult::Finished)
         return special;
-    else if (errors == 0)
-        addError(QStringLiteral("The Verilog engine failed without saying why."));
+    const QString failure = failureMessage(result, m_limits, errors > 0);
+    if (!failure.isEmpty())
+        addError(failure);
     return Failed;
 }
 
@@ -255,6 +278,8 @@ VerilatorEngine::Outcome VerilatorEngine::run()
         return Failed;
     }
     scanSources();
+    if (hasErrors())
+        return Failed;
     QElapsedTimer timer;
     timer.start();
     for (int pass = 1;; ++pass) {
@@ -268,6 +293,12 @@ VerilatorEngine::Outcome VerilatorEngine::run()
         const EngineResult result = runEngine(engine, arguments(), m_folder.path(), left, [this] {
             m_progress({BuildProgress::RunningEngine, 0, 0});
         });
+        m_isUnconfined = !result.isConfined;
+        if (result.outcome == EngineResult::Unconfined) {
+            addError(QStringLiteral("The Verilog engine was not run, because Landlock could not confine it; start this "
+                                    "program outside of other sandboxes."));
+            return Failed;
+        }
         if (result.outcome == EngineResult::NotStarted) {
             addError(QStringLiteral("The Verilog engine %1 cannot be started.").arg(engine));
             return Failed;

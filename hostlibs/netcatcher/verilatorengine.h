@@ -31,6 +31,10 @@ public:
 
     Outcome run();
 
+    /// Whether the engine ran without Landlock, and the line that tells users so.
+    bool isUnconfined() const { return m_isUnconfined; }
+    static QString unconfinedWarning();
+
     /// The engine's result, inside the private folder.
     QString xmlPath() const;
     /// Whether all files that the result names were given to the engine; it opens others when a source includes them by
@@ -44,6 +48,7 @@ public:
     const QSet<QByteArray> &genvars() const { return m_all.genvars; }
 
 private:
+    bool hasErrors() const;
     bool linkSources();
     void scanSources();
     HdlText openSource(int origin);
@@ -65,6 +70,7 @@ private:
     HdlScan m_all;
     BlackBoxes m_blackBoxes;
     QStringList m_messages;
+    bool m_isUnconfined = false;
 };
 
 } // namespace NETCATCHER

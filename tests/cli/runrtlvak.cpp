@@ -3,6 +3,8 @@
 
 #include "runrtlvak.h"
 
+#include "support/fakelandlock.h"
+
 #include <QProcess>
 
 CliRun runRtlvak(const QStringList &arguments)
@@ -18,5 +20,7 @@ CliRun runRtlvak(const QStringList &arguments)
         run.status = process.exitCode();
     run.output = QString::fromUtf8(process.readAllStandardOutput());
     run.error = QString::fromUtf8(process.readAllStandardError());
+    run.warnsOfLandlock = run.error.contains(QLatin1String(support::noLandlockWarning));
+    run.error.remove(QLatin1String(support::noLandlockWarning) + QLatin1Char('\n'));
     return run;
 }

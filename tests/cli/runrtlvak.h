@@ -10,7 +10,8 @@ struct CliRun
 {
     int status = -1; ///< -1 when the program crashed or did not end
     QString output;
-    QString error;
+    QString error;                ///< without the warning about missing Landlock, which depends on the machine
+    bool warnsOfLandlock = false; ///< whether that was given
 };
 
 /// Runs the rtlvak that was built, with no display to be had.

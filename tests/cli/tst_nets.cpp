@@ -3,6 +3,7 @@
 
 #include "runrtlvak.h"
 
+#include "support/fakelandlock.h"
 #include "support/tempdir.h"
 
 #include <QJsonArray>
@@ -33,6 +34,7 @@ private slots:
     void topOverridesTheProject();
     void fileListIsRead();
     void errorsGoToStandardError();
+    void missingLandlockIsTold();
     void definesAndIncludeFolders();
     void usageErrors_data();
     void usageErrors();
@@ -238,6 +240,19 @@ void TestNets::errorsGoToStandardError()
     const CliRun missing = runRtlvak({"nets", dir.filePath("none.vakproj")});
     QCOMPARE(missing.status, 1);
     QVERIFY(missing.error.contains("none.vakproj"));
+}
+
+void TestNets::missingLandlockIsTold()
+{
+    QCOMPARE(runRtlvak({"nets", data("usable.v")}).warnsOfLandlock, support::landlockVersion() == 0);
+    const QByteArray told = support::inChild([]() -> QByteArray {
+        if (!support::hideLandlock())
+            return "no filter";
+        const CliRun run = runRtlvak({"nets", "--match", "clk", data("usable.v")});
+        return (run.warnsOfLandlock ? "warned " : "silent ") + QByteArray::number(run.status) + '\n' +
+               run.error.toUtf8() + run.output.toUtf8();
+    });
+    QCOMPARE(told, QByteArray("warned 0\nclk\nu_mem/clk\n"));
 }
 
 void TestNets::definesAndIncludeFolders()
