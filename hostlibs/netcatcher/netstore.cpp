@@ -278,19 +278,28 @@ RtlNet *NetStore::findLocal(quint32 node, const QByteArray &name) const
     return nullptr;
 }
 
+const ChildIndex &NetStore::childIndexOf(quint32 node) const
+{
+    const quint32 module = m_nodes[node].moduleIndex;
+    const auto known = m_childIndexes.find(module);
+    if (known != m_childIndexes.end())
+        return known->second;
+    std::vector<quint32> offsets;
+    for (quint32 child = node + 1; child < m_nodes[node].subtreeEnd; child = m_nodes[child].subtreeEnd)
+        offsets.push_back(child - node);
+    return m_childIndexes.emplace(module, ChildIndex(moduleOf(m_nodes[node]).children, std::move(offsets)))
+        .first->second;
+}
+
 RtlNet *NetStore::findBelow(quint32 node, const QByteArray &path) const
 {
     if (RtlNet *net = findLocal(node, path))
         return net;
     const auto &children = moduleOf(m_nodes[node]).children;
-    // An escaped name may hold a slash, so every child whose name fits is tried, not only the text before the first
-    // one.
-    for (quint32 child = node + 1; child < m_nodes[node].subtreeEnd; child = m_nodes[child].subtreeEnd) {
-        const QByteArray &name = children[m_nodes[child].childIndex].name;
-        if (path.size() > name.size() && path[name.size()] == '/' && path.startsWith(name)) {
-            if (RtlNet *net = findBelow(child, path.mid(name.size() + 1)))
-                return net;
-        }
+    const auto steps = childIndexOf(node).firstSteps(children, {path.constData(), std::size_t(path.size())});
+    for (const ChildIndex::Step &step : steps) {
+        if (RtlNet *net = findBelow(node + step.offset, path.mid(int(step.nameLength) + 1)))
+            return net;
     }
     return nullptr;
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "childindex.h"
 #include "moduletable.h"
 #include "netarray.h"
 
@@ -11,6 +12,7 @@
 #include <QString>
 
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 namespace NETCATCHER {
@@ -91,6 +93,7 @@ private:
     quint32 firstSingleOf(quint32 node) const;
     quint32 firstBusOf(quint32 node) const;
     QString prefix(quint32 node) const;
+    const ChildIndex &childIndexOf(quint32 node) const;
     RtlNet *findBelow(quint32 node, const QByteArray &path) const;
     RtlNet *findLocal(quint32 node, const QByteArray &name) const;
 
@@ -103,7 +106,8 @@ private:
 
     mutable QHash<quint32, QList<RtlNet *>> m_singlesBelow;
     mutable QHash<quint32, QList<RtlNetBus *>> m_busesBelow;
-    mutable quint32 m_prefixNode = 0; ///< the instance that m_prefix belongs to
+    mutable std::unordered_map<quint32, ChildIndex> m_childIndexes; ///< by module, made by the first search
+    mutable quint32 m_prefixNode = 0;                               ///< the instance that m_prefix belongs to
     mutable QString m_prefix;
 };
 

@@ -19,6 +19,8 @@ private slots:
     void netsOfSeveralNetlistsAreToldApart();
     void namesThatLookAlike();
     void escapedNamesMayHoldSlashes();
+    void firstOfTwoInstancesThatFitIsTaken();
+    void everyNetIsFoundByItsPath();
     void busesWithoutBitsOwnNone();
     void equalNamesGiveTheFirst();
     void moduleInsideItselfIsRefused();
@@ -156,6 +158,38 @@ void TestNetStore::escapedNamesMayHoldSlashes()
     QCOMPARE(netlist->findNet("u/n"), netlist->topHierarchy()->singleNets().first());
     QVERIFY(netlist->findNet("u/v/q"));
     QCOMPARE(netlist->findNet("u/v/own"), netlist->topHierarchy()->children().at(1)->singleNets().last());
+}
+
+void TestNetStore::firstOfTwoInstancesThatFitIsTaken()
+{
+    for (const bool isLongNameFirst : {true, false}) {
+        ModuleTable table;
+        ModuleDef top = module("top");
+        top.children = {{"u/v", 1}, {"u", 2}, {"u/v", 1}};
+        if (!isLongNameFirst)
+            std::swap(top.children[0], top.children[1]);
+        table.modules = {top, module("leaf", {"n"}), module("other", {"v/n"})};
+        const auto netlist = makeNetlist(table);
+        QCOMPARE(netlist->findNet("u/v/n"), netlist->topHierarchy()->singleNetsIncludeSub().first());
+    }
+}
+
+/// Siblings of different sizes, not in the order of their names, and one with no name.
+void TestNetStore::everyNetIsFoundByItsPath()
+{
+    ModuleTable table;
+    ModuleDef top = module("top", {"a"});
+    top.children = {{"z", 1}, {"m", 2}, {"y", 1}, {"", 2}, {"a", 2}, {"b", 1}};
+    ModuleDef mid = module("mid", {"m"});
+    mid.children = {{"u2", 2}, {"u10", 2}, {"u1", 2}};
+    table.modules = {top, mid, module("leaf", {"l", "k"})};
+    const auto netlist = makeNetlist(table);
+    const QList<RtlNet *> nets = netlist->topHierarchy()->singleNetsIncludeSub();
+    QCOMPARE(nets.size(), 1 + 3 * (1 + 3 * 2) + 3 * 2);
+    for (RtlNet *net : nets)
+        QCOMPARE(netlist->findNet(net->fullPathName()), net);
+    for (const char *absent : {"z/l", "m/m", "u1/l", "z/u3/l", "z/u/l", "zz/m", "/", "//l", "z/", "z/u1", "y//u1/l"})
+        QVERIFY2(!netlist->findNet(absent), absent);
 }
 
 void TestNetStore::busesWithoutBitsOwnNone()
