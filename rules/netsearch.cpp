@@ -3,68 +3,113 @@
 
 #include "rules/netsearch.h"
 
+#include "rules/search/indexedsearch.h"
+
 #include <netcatcher/rtlnetlist.h>
+
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <unordered_map>
 
 namespace RTLVAK {
 
 namespace private_impl {
 
-/// Decides on full names. The two calls in matches() define what a search finds.
-class NameMatcher
+using KeptIndexes = std::unordered_map<const NETCATCHER::RtlNetlist *, std::unique_ptr<NetIndex>>;
+
+/// The indexes that somebody keeps, by their netlists; null until the first search.
+static KeptIndexes &keptIndexes()
+{
+    static KeptIndexes indexes;
+    return indexes;
+}
+
+static const NetIndex *indexOf(const NETCATCHER::RtlNetlist &netlist)
+{
+    const auto kept = keptIndexes().find(&netlist);
+    if (kept == keptIndexes().end())
+        return nullptr;
+    if (!kept->second)
+        kept->second = std::make_unique<NetIndex>(netlist);
+    return kept->second.get();
+}
+
+template <typename Item>
+static QList<Item *> select(const QList<Item *> &items, const NameMatcher &matcher)
+{
+    if (matcher.isEverything())
+        return items;
+    QList<Item *> selected;
+    std::copy_if(items.begin(), items.end(), std::back_inserter(selected),
+                 [&matcher](const Item *item) { return matcher.matches(fullName(item)); });
+    return selected;
+}
+
+/// One search: by the index where there is one and it helps, else name by name.
+class Search
 {
 public:
-    explicit NameMatcher(const SearchCriteria &searchCriteria)
+    Search(const NETCATCHER::RtlNetlist &netlist, const SearchCriteria &searchCriteria)
         : criteria(searchCriteria)
-        , caseSensitivity(criteria.caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive)
-        , expression(criteria.pattern, caseSensitivity, criteria.syntax)
+        , matcher(searchCriteria)
+        , scope(criteria.scope ? criteria.scope : netlist.topHierarchy())
     {
+        const QStringList texts = matcher.isEverything() ? QStringList() : matcher.texts();
+        const NetIndex *index = texts.isEmpty() ? nullptr : indexOf(netlist);
+        firstNode = index ? index->numberOf(scope) : 0;
+        if (index && firstNode < index->nodeCount())
+            indexed.emplace(*index, matcher, texts);
     }
 
-    bool matches(const QString &fullName) const
+    SearchHits flat()
     {
-        if (criteria.pattern.isEmpty())
-            return true;
-        return criteria.plainText ? fullName.contains(criteria.pattern, caseSensitivity)
-                                  : expression.exactMatch(fullName);
-    }
-
-    SearchHits select(const QList<NETCATCHER::RtlNetBus *> &buses, const QList<NETCATCHER::RtlNet *> &nets) const
-    {
+        if (!criteria.includeSub)
+            return ofNode(scope, firstNode);
+        if (!indexed)
+            return {select(scope->netbusesIncludeSub(), matcher), select(scope->singleNetsIncludeSub(), matcher)};
         SearchHits hits;
-        for (NETCATCHER::RtlNetBus *bus : buses) {
-            if (matches(bus->fullBusName()))
-                hits.buses.append(bus);
-        }
-        for (NETCATCHER::RtlNet *net : nets) {
-            if (matches(net->fullPathName()))
-                hits.nets.append(net);
-        }
+        indexed->selectBelow(firstNode, &hits);
         return hits;
     }
 
+    HierarchyHits hierarchy()
+    {
+        quint32 number = firstNode;
+        return below(scope, &number);
+    }
+
 private:
-    const SearchCriteria &criteria;
-    Qt::CaseSensitivity caseSensitivity;
-    QRegExp expression;
-};
+    SearchHits ofNode(const NETCATCHER::Hierachy *node, quint32 number)
+    {
+        if (!indexed)
+            return {select(node->netbuses(), matcher), select(node->singleNets(), matcher)};
+        SearchHits hits;
+        indexed->select(number, &hits);
+        return hits;
+    }
 
-static HierarchyHits searchNode(NETCATCHER::Hierachy *node, const NameMatcher &matcher, bool includeSub)
-{
-    HierarchyHits result;
-    result.node = node;
-    result.hits = matcher.select(node->netbuses(), node->singleNets());
-    if (!includeSub)
+    /// `number` is the node's, and the next one's afterwards.
+    HierarchyHits below(NETCATCHER::Hierachy *node, quint32 *number)
+    {
+        HierarchyHits result{node, ofNode(node, (*number)++), {}};
+        if (!criteria.includeSub)
+            return result;
+        const QList<NETCATCHER::Hierachy *> children = node->children();
+        for (NETCATCHER::Hierachy *child : children)
+            result.children.append(below(child, number));
         return result;
-    const QList<NETCATCHER::Hierachy *> children = node->children();
-    for (NETCATCHER::Hierachy *child : children)
-        result.children.append(searchNode(child, matcher, true));
-    return result;
-}
+    }
 
-static NETCATCHER::Hierachy *scopeOf(const NETCATCHER::RtlNetlist *netlist, const SearchCriteria &criteria)
-{
-    return criteria.scope ? criteria.scope : netlist->topHierarchy();
-}
+    const SearchCriteria &criteria;
+    NameMatcher matcher;
+    NETCATCHER::Hierachy *scope;
+    quint32 firstNode = 0; ///< the scope's number in the index
+    std::optional<IndexedSearch> indexed;
+};
 
 /// Instance names may hold slashes themselves, so every child that fits is tried.
 static NETCATCHER::Hierachy *findBelow(NETCATCHER::Hierachy *node, const QString &path)
@@ -83,6 +128,17 @@ static NETCATCHER::Hierachy *findBelow(NETCATCHER::Hierachy *node, const QString
 }
 
 } // namespace private_impl
+
+SearchIndex::SearchIndex(const NETCATCHER::RtlNetlist *netlist)
+    : key(netlist)
+{
+    private_impl::keptIndexes().try_emplace(key);
+}
+
+SearchIndex::~SearchIndex()
+{
+    private_impl::keptIndexes().erase(key);
+}
 
 NETCATCHER::Hierachy *findScope(const NETCATCHER::RtlNetlist *netlist, const QString &path)
 {
@@ -103,20 +159,12 @@ QString patternError(const SearchCriteria &criteria)
 
 SearchHits searchFlat(const NETCATCHER::RtlNetlist *netlist, const SearchCriteria &criteria)
 {
-    if (!netlist)
-        return {};
-    const NETCATCHER::Hierachy *scope = private_impl::scopeOf(netlist, criteria);
-    const private_impl::NameMatcher matcher(criteria);
-    return criteria.includeSub ? matcher.select(scope->netbusesIncludeSub(), scope->singleNetsIncludeSub())
-                               : matcher.select(scope->netbuses(), scope->singleNets());
+    return netlist ? private_impl::Search(*netlist, criteria).flat() : SearchHits();
 }
 
 HierarchyHits searchHierarchy(const NETCATCHER::RtlNetlist *netlist, const SearchCriteria &criteria)
 {
-    if (!netlist)
-        return {};
-    return private_impl::searchNode(private_impl::scopeOf(netlist, criteria), private_impl::NameMatcher(criteria),
-                                    criteria.includeSub);
+    return netlist ? private_impl::Search(*netlist, criteria).hierarchy() : HierarchyHits();
 }
 
 VAK::SignalItem signalItem(const NETCATCHER::RtlNet *net)

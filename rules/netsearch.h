@@ -44,6 +44,20 @@ struct HierarchyHits
     QList<HierarchyHits> children;
 };
 
+/// Makes searches of a netlist fast: while it lives, what the first one learns of the names is kept for the next ones.
+/// It belongs to the owner of the netlist and goes before the netlist does.
+class SearchIndex
+{
+public:
+    explicit SearchIndex(const NETCATCHER::RtlNetlist *netlist);
+    ~SearchIndex();
+    SearchIndex(const SearchIndex &) = delete;
+    SearchIndex &operator=(const SearchIndex &) = delete;
+
+private:
+    const NETCATCHER::RtlNetlist *key;
+};
+
 /// The node whose path from the top is `path` (`u_core/u_alu`): the top node for an empty path or the top's name, null
 /// when there is no such instance.
 NETCATCHER::Hierachy *findScope(const NETCATCHER::RtlNetlist *netlist, const QString &path);
