@@ -6,20 +6,23 @@
 #include "views/corelist.h"
 #include "views/inserterdocument.h"
 
+#include "rules/netsearch.h"
+
 #include <netcatcher/rtlnetlist.h>
 
 #include <QFileSystemWatcher>
 #include <QList>
 #include <QPointer>
 
+#include <memory>
 #include <utility>
 
 namespace RTLVAK::private_impl {
 
 /// What the private objects of the views do with their cores and pages in the same way, whatever kind of core it is.
 ///
-/// Holds no data either: `Private` derives from it and has the members `q`, `filePath`, `cores`, `netlist`, `widgets`,
-/// `modified`, `notifyModified`, `watcher`, `fileChangePending` and `netlistReadRunning`.
+/// Holds no data either: `Private` derives from it and has the members `q`, `filePath`, `cores`, `netlist`,
+/// `searchIndex`, `widgets`, `modified`, `notifyModified`, `watcher`, `fileChangePending` and `netlistReadRunning`.
 template <class Private, class Core, class Page>
 class CoreDocument : public InserterDocument
 {
@@ -112,6 +115,7 @@ protected:
         // The old one lives until no page points to it.
         const std::unique_ptr<NETCATCHER::RtlNetlist> old(std::exchange(self().netlist, newNetlist.release()));
         handOverNetlist();
+        self().searchIndex = self().netlist ? std::make_unique<SearchIndex>(self().netlist) : nullptr;
     }
 
     // What differs.

@@ -31,6 +31,7 @@ VakLiteInserterViewPrivate::VakLiteInserterViewPrivate(VakLiteInserterView *view
 VakLiteInserterViewPrivate::~VakLiteInserterViewPrivate()
 {
     delete watcher;
+    searchIndex.reset();
     delete netlist;
     qDeleteAll(cores);
 }

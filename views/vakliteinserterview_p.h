@@ -38,7 +38,8 @@ public:
     QString filePath;
     QList<VAK::AOCore_Lite *> cores;
     NETCATCHER::RtlNetlist *netlist = nullptr;
-    QList<LiteAoOptionWidget *> widgets; ///< one page for each core, in the same order
+    std::unique_ptr<SearchIndex> searchIndex; ///< of the netlist of the pages; goes before that
+    QList<LiteAoOptionWidget *> widgets;      ///< one page for each core, in the same order
     bool modified = false;
     std::function<void(bool)> notifyModified;
     QFileSystemWatcher *watcher;

@@ -43,6 +43,7 @@ VakStandardInserterViewPrivate::VakStandardInserterViewPrivate(VakStandardInsert
 VakStandardInserterViewPrivate::~VakStandardInserterViewPrivate()
 {
     delete watcher;
+    searchIndex.reset();
     delete netlist;
     delete addAction;
     delete removeAction;

@@ -47,7 +47,8 @@ public:
     QString filePath;
     QList<VAK::AoCore *> cores;
     NETCATCHER::RtlNetlist *netlist = nullptr;
-    QList<AoOptionWidget *> widgets; ///< one page for each core, in the same order
+    std::unique_ptr<SearchIndex> searchIndex; ///< of the netlist of the pages; goes before that
+    QList<AoOptionWidget *> widgets;          ///< one page for each core, in the same order
     QAction *addAction;
     QAction *removeAction;
     bool modified = false;
