@@ -7,6 +7,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace NETCATCHER {
@@ -33,7 +34,8 @@ private:
     ModuleDef expandModule(const RawModule &raw, bool isTop);
     void expandInstances(const RawModule &raw, ModuleDef &module);
     quint8 usesOf(const RawVariable &variable) const;
-    bool isNet(const RawVariable &variable) const;
+    bool isGenvar(const RawModule &raw, const QByteArray &name) const;
+    bool isNet(const RawModule &raw, const RawVariable &variable) const;
     bool isUnusable(const RawVariable &variable, bool isTop) const;
 
     const RawDesign &design;
@@ -76,7 +78,7 @@ ModuleDef Expander::expandModule(const RawModule &raw, bool isTop)
         return module;
     TypeExpansion types(design.types, module);
     for (const RawVariable &variable : raw.variables) {
-        if (isNet(variable))
+        if (isNet(raw, variable))
             types.add(variable.name, variable.type, isUnusable(variable, isTop));
     }
     for (const QByteArray &name : types.cappedNames())
@@ -111,11 +113,21 @@ void Expander::expandInstances(const RawModule &raw, ModuleDef &module)
     }
 }
 
-/// A genvar looks like an integer that nobody uses.
-bool Expander::isNet(const RawVariable &variable) const
+/// A module whose name a macro makes was not seen; its genvars are with some other module.
+bool Expander::isGenvar(const RawModule &raw, const QByteArray &name) const
 {
-    const QByteArray name = variable.name.mid(variable.scopeLength);
-    return !(variable.isInteger && (variable.uses & UseUnknown) == 0 && options.genvars.contains(name));
+    const auto own = options.genvars.constFind(raw.name);
+    if (own != options.genvars.constEnd())
+        return own->contains(name) || options.genvars.value({}).contains(name);
+    return std::any_of(options.genvars.cbegin(), options.genvars.cend(),
+                       [&name](const QSet<QByteArray> &names) { return names.contains(name); });
+}
+
+/// A genvar looks like an integer that nobody uses.
+bool Expander::isNet(const RawModule &raw, const RawVariable &variable) const
+{
+    const bool canBeGenvar = variable.isInteger && (variable.uses & UseUnknown) == 0;
+    return !canBeGenvar || !isGenvar(raw, variable.name.mid(variable.scopeLength));
 }
 
 quint8 Expander::usesOf(const RawVariable &variable) const

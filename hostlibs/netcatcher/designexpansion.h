@@ -18,7 +18,7 @@ struct ExpansionOptions
 {
     QByteArray top;                                    ///< key of the module where the hierarchy begins
     std::function<bool(const RawModule &)> isBlackBox; ///< whether a module is a stand-in for a missing source
-    QSet<QByteArray> genvars;                          ///< names that the sources declare as genvar
+    QHash<QByteArray, QSet<QByteArray>> genvars;       ///< names that the sources declare as genvar, by module
 };
 
 /// Turns modules and types into tables of nets and buses: which variables are nets, under which names, and which of

@@ -77,7 +77,7 @@ void HdlScanner::directive(const QByteArray &name)
     HdlLexer &lexer = m_texts.back().lexer;
     if (name == "define") {
         m_macros.insert(lexer.next().text);
-        lexer.restOfLine();
+        genvarsOfMacro(lexer.restOfLine());
     } else if (name == "undef") {
         m_macros.remove(lexer.next().text);
     } else if (name == "ifdef" || name == "ifndef") {
@@ -148,8 +148,14 @@ void HdlScanner::keyword(const QByteArray &word)
         else if (word == "package")
             m_result.packages.insert(name.text);
         else
-            m_result.modules.append(name.text);
+            addModule(name.text);
     }
+}
+
+void HdlScanner::addModule(const QByteArray &name)
+{
+    m_result.modules.append(name);
+    m_result.genvars[name];
 }
 
 void HdlScanner::genvars()
@@ -159,10 +165,20 @@ void HdlScanner::genvars()
         token = take();
         if (token.kind != HdlToken::Identifier)
             break;
-        m_result.genvars.insert(token.text);
+        m_result.genvars[m_result.modules.isEmpty() ? QByteArray() : m_result.modules.constLast()].insert(token.text);
         token = take();
     } while (token.is(","));
     putBack(token);
+}
+
+/// Macros are not expanded; which modules their genvars are in is not known.
+void HdlScanner::genvarsOfMacro(const QByteArray &text)
+{
+    HdlLexer lexer(text);
+    for (HdlToken token = lexer.next(); token.kind != HdlToken::End; token = lexer.next()) {
+        if (token.is("genvar"))
+            m_result.genvars[QByteArray()].insert(lexer.next().text);
+    }
 }
 
 /// `defparam u_a.u_b.DEPTH = 4, ...;`: the word before each equals sign.

@@ -6,6 +6,7 @@
 #include "hdllexer.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QMap>
 #include <QSet>
 #include <QStringList>
@@ -34,7 +35,8 @@ struct HdlScan
     QSet<QByteArray> usedPackages;        ///< before `::`
     QMap<QByteArray, ModuleUsage> usages; ///< by module name, of everything that looks like an instance
     QSet<QByteArray> recursive;           ///< modules that instantiate themselves
-    QSet<QByteArray> genvars;
+    QHash<QByteArray, QSet<QByteArray>>
+        genvars;                ///< by module, also of modules without any; those of macros under no name
     QSet<QByteArray> defparams; ///< parameters set from outside of the instance
 };
 
@@ -73,7 +75,9 @@ private:
     void include();
 
     void keyword(const QByteArray &word);
+    void addModule(const QByteArray &name);
     void genvars();
+    void genvarsOfMacro(const QByteArray &text);
     void defparams();
     void identifier(const QByteArray &name);
     bool instance(ModuleUsage &usage);

@@ -67,7 +67,7 @@ private:
     EngineLimits m_limits;
     ReadResult m_read;
     RawDesign m_design;
-    QSet<QByteArray> m_genvars;
+    QHash<QByteArray, QSet<QByteArray>> m_genvars;
     bool m_isAnalysed = false;
     bool m_isCached = true;
     bool m_isUnconfined = false; ///< whether the engine ran without Landlock

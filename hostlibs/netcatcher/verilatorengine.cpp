@@ -146,7 +146,8 @@ void VerilatorEngine::scanSources()
         scans.append(scanner.scan(openSource(i)));
         progress.doneBytes += QFileInfo(m_folder.filePath(m_files[i])).size();
         m_all.modules += scans[i].modules;
-        m_all.genvars.unite(scans[i].genvars);
+        for (auto it = scans[i].genvars.cbegin(); it != scans[i].genvars.cend(); ++it)
+            m_all.genvars[it.key()].unite(it.value());
         m_all.recursive.unite(scans[i].recursive);
         for (auto it = scans[i].usages.cbegin(); it != scans[i].usages.cend(); ++it)
             m_all.usages.insert(it.key(), it.value());

@@ -45,7 +45,7 @@ public:
     /// Modules that the sources declare, and those of them that none instantiates, by a scan of the text.
     QStringList declaredModules() const;
     QStringList declaredRoots() const;
-    const QSet<QByteArray> &genvars() const { return m_all.genvars; }
+    const QHash<QByteArray, QSet<QByteArray>> &genvars() const { return m_all.genvars; }
 
 private:
     bool hasErrors() const;

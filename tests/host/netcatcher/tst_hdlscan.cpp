@@ -156,7 +156,7 @@ void TestHdlScan::includesThatIncludeThemselvesEnd()
 
 void TestHdlScan::genvars()
 {
-    QCOMPARE(sorted(scan("module m; genvar a, b; for (genvar c = 0; c < 2; c++) x u(); endmodule").genvars),
+    QCOMPARE(sorted(scan("module m; genvar a, b; for (genvar c = 0; c < 2; c++) x u(); endmodule").genvars["m"]),
              QList<QByteArray>({"a", "b", "c"}));
 }
 

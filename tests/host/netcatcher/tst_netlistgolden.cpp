@@ -39,7 +39,7 @@ void TestNetlistGolden::listsTheNetsOf_data()
     QTest::newRow("generated") << QStringList{"generated.v"};
     for (const char *name : {"loops", "nettypes", "portstyles", "nested", "memories", "planes", "charge", "pads"})
         QTest::newRow(name) << QStringList{QString(name) + ".v"};
-    for (const char *name : {"arrays", "scopes", "links"})
+    for (const char *name : {"arrays", "scopes", "links", "unlisted"})
         QTest::newRow(name) << QStringList{QString(name) + ".sv"};
     QTest::newRow("types") << QStringList{"types.sv", "types_pkg.sv"};
     QTest::newRow("streams") << QStringList{"streams.sv"};
