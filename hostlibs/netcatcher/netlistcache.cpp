@@ -6,7 +6,6 @@
 #include "archivebytes.h"
 #include "designsources.h"
 #include "netlistarchive.h"
-#include "readerversion.h"
 #include "readmanifest.h"
 
 #include <QCryptographicHash>
@@ -44,11 +43,11 @@ static void putPath(const QString &path, ByteWriter &out)
     out.putText(QFileInfo(path).absoluteFilePath());
 }
 
-QByteArray NetlistCache::keyOf(const DesignSources &sources, const QString &engine)
+QByteArray NetlistCache::keyOf(const DesignSources &sources, const QString &engine, const QByteArray &reader)
 {
     const QFileInfo program(QFileInfo(engine).canonicalFilePath());
     ByteWriter out;
-    out.putBytes(readerVersion());
+    out.putBytes(reader);
     out.putText(program.filePath());
     out.putText(QString::number(program.size()));
     out.putText(QString::number(program.lastModified().toMSecsSinceEpoch()));

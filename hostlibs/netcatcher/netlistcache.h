@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "readerversion.h"
 #include "readresult.h"
 
 #include <QByteArray>
@@ -23,9 +24,10 @@ class NetlistCache
 public:
     /// The user's, which the workbench and the command line share; empty when there is none.
     static QString defaultFolder();
-    /// The name of the entry for a design read by `engine`, a program's path. Another engine, or another state of this
-    /// library, gives another name.
-    static QByteArray keyOf(const DesignSources &sources, const QString &engine);
+    /// The name of the entry for a design read by `engine`, a program's path, and by `reader`, a version of this
+    /// library.
+    static QByteArray keyOf(const DesignSources &sources, const QString &engine,
+                            const QByteArray &reader = readerVersion());
 
     static constexpr qint64 defaultBytes = qint64(512) << 20;
 

@@ -10,6 +10,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QtTest>
 
 #include <functional>
@@ -31,6 +32,7 @@ private slots:
 
     void findsWhatWasStored();
     void keyTellsDescriptionsApart();
+    void readerVersionFollowsTheSources();
     void entriesAreForTheirUserOnly();
     void badEntriesAreIgnoredAndReplaced_data();
     void badEntriesAreIgnoredAndReplaced();
@@ -111,8 +113,28 @@ void TestNetlistCache::keyTellsDescriptionsApart()
     for (const DesignSources &sources : {DesignSources(), a, b, c})
         keys.insert(NetlistCache::keyOf(sources, "/bin/sh"));
     keys.insert(NetlistCache::keyOf(a, "/bin/ls"));
-    QCOMPARE(keys.size(), 5);
+    keys.insert(NetlistCache::keyOf(a, "/bin/sh", "another version"));
+    QCOMPARE(keys.size(), 6);
     QVERIFY(keys.contains(NetlistCache::keyOf(a, "/bin/sh")));
+}
+
+void TestNetlistCache::readerVersionFollowsTheSources()
+{
+    dir->write("lib/a.cpp", "one");
+    dir->write("lib/b.h", {});
+    const auto version = [this] {
+        QProcess::execute(CMAKE_PROGRAM, {"-DFOLDER=" + dir->filePath("lib"),
+                                          "-DOUTPUT=" + dir->filePath("version.cpp"), "-P", READER_VERSION_SCRIPT});
+        return dir->read("version.cpp");
+    };
+    const QByteArray first = version();
+    QVERIFY(first.contains("readerVersion()"));
+    QCOMPARE(version(), first);
+    dir->write("lib/a.cpp", "two");
+    const QByteArray second = version();
+    QVERIFY(second != first);
+    dir->write("lib/c.h", {});
+    QVERIFY(version() != second);
 }
 
 void TestNetlistCache::entriesAreForTheirUserOnly()
