@@ -124,8 +124,9 @@ bool NetlistBuilder::runEngine(const ProgressFunction &progress, ReadManifest &m
         return false;
     if (outcome == VerilatorEngine::Done)
         listModules(engine.declaredModules());
-    if (outcome != VerilatorEngine::Done || firstError(m_read.messages) || !engine.hasReadOnlyGiven(m_design.files))
+    if (outcome != VerilatorEngine::Done || firstError(m_read.messages))
         manifest.giveUp();
+    engine.noteFilesRead(m_design.files);
     if (!m_top.isEmpty() && m_read.tops.isEmpty())
         m_read.tops = engine.declaredRoots();
     return true;

@@ -85,7 +85,7 @@ bool NetlistCache::isOurs() const
 
 bool NetlistCache::makeFolder() const
 {
-    if (!m_folder.isEmpty() && QDir().mkpath(QFileInfo(m_folder).path()))
+    if (QDir().mkpath(QFileInfo(m_folder).path()))
         mkdir(QFile::encodeName(m_folder).constData(), S_IRWXU);
     return isOurs();
 }

@@ -18,6 +18,8 @@
 namespace NETCATCHER {
 
 static const char engineProgram[] = "verilator_bin";
+/// Its own declarations for designs that use mailboxes, semaphores or processes.
+static const char engineLibrary[] = "verilated_std.sv";
 static const char resultFolder[] = "vakout";
 static const char resultPrefix[] = "Vx";
 /// Larger files are generated tables and netlists; the engine's own complaints replace what a scan would find in them.
@@ -312,13 +314,18 @@ VerilatorEngine::Outcome VerilatorEngine::run()
     }
 }
 
-bool VerilatorEngine::hasReadOnlyGiven(const QVector<QByteArray> &files) const
+void VerilatorEngine::noteFilesRead(const QVector<QByteArray> &files)
 {
     const QString folder = m_folder.path() + QLatin1Char('/');
-    return std::all_of(files.cbegin(), files.cend(), [&](const QByteArray &name) {
+    for (const QByteArray &name : files) {
         const QString path = QString::fromUtf8(relativeToFolder(name));
-        return QDir::isRelativePath(path) && QDir::cleanPath(folder + path).startsWith(folder);
-    });
+        if (QDir::isRelativePath(path) && QDir::cleanPath(folder + path).startsWith(folder))
+            continue;
+        if (QFileInfo(path).fileName() == QLatin1String(engineLibrary))
+            m_manifest.look(path);
+        else
+            m_manifest.giveUp();
+    }
 }
 
 QStringList VerilatorEngine::declaredModules() const

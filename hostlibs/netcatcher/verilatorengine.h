@@ -37,9 +37,9 @@ public:
 
     /// The engine's result, inside the private folder.
     QString xmlPath() const;
-    /// Whether all files that the result names were given to the engine; it opens others when a source includes them by
-    /// their absolute paths.
-    bool hasReadOnlyGiven(const QVector<QByteArray> &files) const;
+    /// Tells the manifest about files that the result names but the engine was not given. It opens its own library, and
+    /// what sources include by absolute paths; where it looked for includes of the latter, nobody knows.
+    void noteFilesRead(const QVector<QByteArray> &files);
     /// Errors and warnings as users see them.
     const QStringList &messages() const { return m_messages; }
     /// Modules that the sources declare, and those of them that none instantiates, by a scan of the text.
