@@ -130,8 +130,11 @@ QByteArray writeArchive(const QByteArray &key, const ReadManifest &manifest, con
 
 std::optional<ReadResult> readArchive(const QByteArray &bytes, const QByteArray &key, ReadManifest *manifest)
 {
-    const QByteArray body = bytes.mid(magicBytes + checksumBytes);
-    if (!bytes.startsWith(magic) || bytes.mid(magicBytes, checksumBytes) != checksum(body))
+    constexpr int headBytes = magicBytes + checksumBytes;
+    if (!bytes.startsWith(magic) || bytes.size() < headBytes)
+        return {};
+    const auto body = QByteArray::fromRawData(bytes.constData() + headBytes, bytes.size() - headBytes); // can be large
+    if (bytes.mid(magicBytes, checksumBytes) != checksum(body))
         return {};
     ByteReader in(body);
     if (in.takeBytes() != key)
