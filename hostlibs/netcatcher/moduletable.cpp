@@ -3,7 +3,11 @@
 
 #include "moduletable.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cstring>
 #include <numeric>
 
@@ -17,9 +21,30 @@ static quint64 declaredWidth(qint32 left, qint32 right)
     return quint64(std::abs(qint64(left) - qint64(right))) + 1;
 }
 
-static QByteArray rangeText(qint32 left, qint32 right)
+/// A name while it is composed; a search asks for millions.
+using NameBuffer = QVarLengthArray<char, 256>;
+
+static void append(NameBuffer *name, std::string_view text)
 {
-    return '[' + QByteArray::number(left) + ':' + QByteArray::number(right) + ']';
+    name->append(text.data(), int(text.size()));
+}
+
+static void append(NameBuffer *name, qint32 number)
+{
+    std::array<char, 16> digits;
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+    Q_UNUSED(error);
+    name->append(digits.data(), int(end - digits.data()));
+}
+
+static QString toText(const NameBuffer &name)
+{
+    return QString::fromUtf8(name.constData(), name.size());
+}
+
+static std::string_view viewOf(const QByteArray &bytes)
+{
+    return {bytes.constData(), std::size_t(bytes.size())};
 }
 
 quint32 BusDef::bitCount() const
@@ -56,21 +81,34 @@ void ModuleDef::addWhole(const QByteArray &wholeName, BusDef::Form form, qint32 
     buses.push_back({bits, quint32(busArena.size()), left, right, form, true});
 }
 
+std::string_view ModuleDef::singleView(quint32 index) const
+{
+    const std::size_t begin = index == 0 ? 0 : singleEnds[index - 1] >> 1;
+    return viewOf(singleArena).substr(begin, (singleEnds[index] >> 1) - begin);
+}
+
+std::string_view ModuleDef::busView(quint32 index) const
+{
+    const std::size_t begin = index == 0 ? 0 : buses[index - 1].nameEnd;
+    return viewOf(busArena).substr(begin, buses[index].nameEnd - begin);
+}
+
 QByteArray ModuleDef::singleText(quint32 index) const
 {
-    const int begin = index == 0 ? 0 : int(singleEnds[index - 1] >> 1);
-    return QByteArray::fromRawData(singleArena.constData() + begin, int(singleEnds[index] >> 1) - begin);
+    const std::string_view text = singleView(index);
+    return QByteArray::fromRawData(text.data(), int(text.size()));
 }
 
 QByteArray ModuleDef::busText(quint32 index) const
 {
-    const int begin = index == 0 ? 0 : int(buses[index - 1].nameEnd);
-    return QByteArray::fromRawData(busArena.constData() + begin, int(buses[index].nameEnd) - begin);
+    const std::string_view text = busView(index);
+    return QByteArray::fromRawData(text.data(), int(text.size()));
 }
 
 QString ModuleDef::singleName(quint32 index) const
 {
-    return QString::fromUtf8(singleText(index));
+    const std::string_view text = singleView(index);
+    return QString::fromUtf8(text.data(), int(text.size()));
 }
 
 bool ModuleDef::isSingleUnusable(quint32 index) const
@@ -81,18 +119,28 @@ bool ModuleDef::isSingleUnusable(quint32 index) const
 QString ModuleDef::busName(quint32 index) const
 {
     const BusDef &def = buses[index];
-    QString text = QString::fromUtf8(busText(index));
-    if (def.form != BusDef::Memory)
-        text += QLatin1String(rangeText(def.left, def.right));
-    return text;
+    NameBuffer text;
+    append(&text, busView(index));
+    if (def.form != BusDef::Memory) {
+        append(&text, "[");
+        append(&text, def.left);
+        append(&text, ":");
+        append(&text, def.right);
+        append(&text, "]");
+    }
+    return toText(text);
 }
 
 QString ModuleDef::bitName(quint32 bit) const
 {
     const quint32 index = busOfBit(bit);
     const BusDef &def = buses[index];
-    return QString::fromUtf8(busText(index)) + QLatin1Char('[') + QString::number(def.indexAt(bit - def.firstBit)) +
-           QLatin1Char(']');
+    NameBuffer text;
+    append(&text, busView(index));
+    append(&text, "[");
+    append(&text, def.indexAt(bit - def.firstBit));
+    append(&text, "]");
+    return toText(text);
 }
 
 quint32 ModuleDef::busOfBit(quint32 bit) const
@@ -119,10 +167,10 @@ static std::vector<quint32> sortedByName(quint32 count, Text text)
 std::optional<quint32> ModuleDef::findSingle(const QByteArray &netName) const
 {
     if (singleOrder.size() != singleEnds.size())
-        singleOrder = sortedByName(singleCount(), [this](quint32 i) { return singleText(i); });
-    const auto found = std::lower_bound(singleOrder.begin(), singleOrder.end(), netName,
-                                        [this](quint32 i, const QByteArray &key) { return singleText(i) < key; });
-    if (found == singleOrder.end() || singleText(*found) != netName)
+        singleOrder = sortedByName(singleCount(), [this](quint32 i) { return singleView(i); });
+    const auto found = std::lower_bound(singleOrder.begin(), singleOrder.end(), viewOf(netName),
+                                        [this](quint32 i, std::string_view key) { return singleView(i) < key; });
+    if (found == singleOrder.end() || singleView(*found) != viewOf(netName))
         return {};
     return *found;
 }
@@ -138,11 +186,11 @@ std::optional<quint32> ModuleDef::findBit(const QByteArray &bitName) const
     if (!isNumber || QByteArray::number(index) != digits)
         return {};
     if (busOrder.size() != buses.size())
-        busOrder = sortedByName(busCount(), [this](quint32 i) { return busText(i); });
-    const QByteArray base = bitName.left(bracket);
+        busOrder = sortedByName(busCount(), [this](quint32 i) { return busView(i); });
+    const std::string_view base = viewOf(bitName).substr(0, std::size_t(bracket));
     auto found = std::lower_bound(busOrder.begin(), busOrder.end(), base,
-                                  [this](quint32 i, const QByteArray &key) { return busText(i) < key; });
-    for (; found != busOrder.end() && busText(*found) == base; ++found) {
+                                  [this](quint32 i, std::string_view key) { return busView(i) < key; });
+    for (; found != busOrder.end() && busView(*found) == base; ++found) {
         const BusDef &def = buses[*found];
         if (def.bitCount() > 0 && index >= std::min(def.left, def.right) && index <= std::max(def.left, def.right))
             return def.firstBit + quint32(std::abs(qint64(index) - def.left));

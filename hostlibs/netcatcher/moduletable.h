@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace NETCATCHER {
@@ -86,6 +87,10 @@ public:
     void squeeze();
 
 private:
+    // The same as singleText() and busText(), without an object for each.
+    std::string_view singleView(quint32 index) const;
+    std::string_view busView(quint32 index) const;
+
     QByteArray singleArena;
     QByteArray busArena;
     std::vector<quint32> singleEnds; ///< end in the arena, shifted by one; the lowest bit marks the unusable
