@@ -5,6 +5,7 @@
 #include "commands.h"
 #include "netdesign.h"
 
+#include "rules/netcounts.h"
 #include "rules/netsearch.h"
 
 #include <netcatcher/rtlnetlist.h>
@@ -120,8 +121,7 @@ static void printCounts(const QString &top, const NETCATCHER::NetCounts &counts,
             << ",\"buses\":" << counts.buses << ",\"bits\":" << counts.bits << ",\"unusable\":" << counts.unusable
             << "}\n";
     else
-        out << top << ": " << counts.rows() << " nets to choose from (" << counts.singleNets << " single, "
-            << counts.buses << " buses), " << counts.bits << " bits; " << counts.unusable << " unusable\n";
+        out << RTLVAK::countsLine(top, counts) << "; " << counts.unusable << " unusable\n";
     out.flush();
 }
 

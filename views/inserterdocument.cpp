@@ -8,6 +8,7 @@
 #include "plugin/vakinserterview.h"
 #include "rules/backupname.h"
 #include "rules/designevents.h"
+#include "rules/netcounts.h"
 #include "widgets/messagebox.h"
 #include "widgets/reloadbanner.h"
 
@@ -188,8 +189,10 @@ bool InserterDocument::readRtlNetlist()
     netlistReadFlag() = false;
     if (!netlist)
         return false;
+    const QString counts = countsLine(netlist->topHierarchy()->name(), netlist->counts());
     setNetlist(std::move(netlist));
-    return true;
+    tellHost(QUtil::MessageEvent::Info, counts);
+    return !guard.isNull();
 }
 
 void InserterDocument::onFileChange()

@@ -34,6 +34,7 @@ private slots:
     void whileAQuestionIsOpenEveryEventIsIgnored();
     void unsubscribedViewHearsNothing();
 
+    void everyReadOfTheDesignIsCountedInTheMessages();
     void reloadReadsTheNetlistAnew();
     void reloadKeepsUnsavedEdits();
     void afterReloadTheNextEventAsksAgain();
@@ -269,6 +270,20 @@ public:
 
     QStringList lines;
 };
+
+void TestViewEvents::everyReadOfTheDesignIsCountedInTheMessages()
+{
+    ViewFixture fixture;
+    MessageListener listener;
+    QVERIFY(fixture.open());
+    fakes::Instance smaller("tiny");
+    smaller.net("clk").net("tied", fakes::Unusable).bus("d", 7, 0).bus("r", 0, 1, fakes::Unusable);
+    smaller.child("u", "leaf").bus("q", 0, 3);
+    fakes::deliverNetlist(smaller);
+    fixture.call("onRtlReload");
+    QCOMPARE(listener.lines, QStringList({"info: soc: 4 nets to choose from (3 single, 1 bus), 11 bits",
+                                          "info: tiny: 3 nets to choose from (1 single, 2 buses), 13 bits"}));
+}
 
 void TestViewEvents::aFailedReloadKeepsUnsavedWorkBesideTheFile()
 {
