@@ -10,8 +10,11 @@ module charge (
   wire scalared [3:0] loose;
   wire vectored [3:0] tight;
   trireg held;
+  trireg [1:0] faint;
+  specparam DELAY = 3;
   assign loose = d;
   assign tight = ~d;
   assign held = d[0];
-  assign q = ^loose ^ ^tight ^ held;
+  assign faint = d[1:0];
+  assign q = ^faint ^ ^loose ^ ^tight ^ held;
 endmodule

@@ -45,6 +45,7 @@ module nettypes (
   realtime moment;
   event tick;
   parameter LIMIT = 9;
+  specparam DELAY = 3;
   localparam [3:0] START = 4'd2;
 
   assign plain = sel[0];

@@ -37,7 +37,8 @@ void TestNetlistGolden::listsTheNetsOf_data()
     QTest::newRow("vectors") << QStringList{"vectors.v"};
     QTest::newRow("usable") << QStringList{"usable.v"};
     QTest::newRow("generated") << QStringList{"generated.v"};
-    for (const char *name : {"loops", "nettypes", "portstyles", "nested", "memories", "planes", "charge", "pads"})
+    for (const char *name :
+         {"loops", "nettypes", "portstyles", "nested", "memories", "planes", "charge", "pads", "constants"})
         QTest::newRow(name) << QStringList{QString(name) + ".v"};
     for (const char *name : {"arrays", "scopes", "links", "unlisted"})
         QTest::newRow(name) << QStringList{QString(name) + ".sv"};

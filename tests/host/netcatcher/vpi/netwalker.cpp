@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The RtlVakIns authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A module for the simulator vvp. Before the simulation begins it prints the nets and variables of the design, one a
-// line: what it is, path with its ranges, width (0 for an array), separated by tabulators. Paths are written as in the
-// program: `/` behind an instance, `.` behind a generate block, nothing for the top itself.
+// A module for the simulator vvp. Before the simulation begins it prints each top and then its nets and variables, one
+// a line: NET, what it is, path with its ranges, width (0 for an array), separated by tabulators. Paths are written as
+// in the program: `/` behind an instance, `.` behind a generate block, nothing for the top itself.
 
 #include <vpi_user.h>
 
@@ -68,8 +68,10 @@ static void walk(vpiHandle scope, const std::string &prefix)
 static PLI_INT32 walkDesign(s_cb_data *)
 {
     const vpiHandle tops = vpi_iterate(vpiModule, nullptr);
-    while (const vpiHandle top = tops ? vpi_scan(tops) : nullptr)
+    while (const vpiHandle top = tops ? vpi_scan(tops) : nullptr) {
+        vpi_printf("TOP\t%s\n", textOf(vpiName, top).c_str());
         walk(top, {});
+    }
     vpi_control(vpiFinish, 0);
     return 0;
 }

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "netlistprobe.h"
+
+#include "support/tempdir.h"
+
+#include <QtTest>
+
+/// Legal designs that the engine does not read, as docs/netlist.md lists them: an error names the line.
+class TestNetlistLimits : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isRefusedWithItsLine_data();
+    void isRefusedWithItsLine();
+    void wordsOfSystemVerilogNeedAStandard();
+};
+
+void TestNetlistLimits::isRefusedWithItsLine_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::newRow("instances in two dimensions") << QByteArray("inv u [1:0][2:0] (.i(d), .o(q));");
+    QTest::newRow("defparam into an array") << QByteArray("inv u [5:0] (.i(d), .o(q)); defparam u[0].N = 2;");
+    QTest::newRow("charge strength") << QByteArray("trireg (small) held; assign held = d[0];");
+    QTest::newRow("dimensions behind an enumeration") << QByteArray("enum logic {A, B} [1:0] both;");
+}
+
+void TestNetlistLimits::isRefusedWithItsLine()
+{
+    QFETCH(QByteArray, body);
+    const support::TempDir dir;
+    const QString path = dir.write("design.sv", "module inv #(parameter N = 1) (input i, output o); endmodule\n"
+                                                "module top (input [5:0] d, output [5:0] q);\n" +
+                                                    body + "\nendmodule\n");
+    const probe::Result result = probe::build(probe::sources({path}, "top"));
+    QVERIFY(!result.netlist);
+    QVERIFY(!result.errors().isEmpty());
+    QVERIFY2(result.errors().first().startsWith("ERROR: " + path + ":3: "), qPrintable(result.errors().first()));
+}
+
+void TestNetlistLimits::wordsOfSystemVerilogNeedAStandard()
+{
+    const support::TempDir dir;
+    const QString path = dir.write("design.v", "module top (input weak, output do);\nassign do = weak;\nendmodule\n");
+    NETCATCHER::DesignSources sources = probe::sources({path});
+    QVERIFY(probe::build(sources).errors().first().startsWith("ERROR: " + path + ":1: "));
+    sources.standard = "1364-2005";
+    const probe::Result result = probe::build(sources);
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(probe::rows(*result.netlist), QStringList({"weak", "do"}));
+}
+
+QTEST_GUILESS_MAIN(TestNetlistLimits)
+#include "tst_netlistlimits.moc"
