@@ -15,8 +15,10 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QStandardPaths>
+#include <QTemporaryFile>
+
+#include <cstdio>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -110,17 +112,19 @@ std::optional<ReadResult> NetlistCache::find(const QByteArray &key, const std::f
     return result;
 }
 
-/// Puts a file in the place of whatever is there, so that readers see the old one or the new one, both whole.
+/// Puts a file in the place of whatever is there, so that readers see the old one or the new one, both whole. It is not
+/// forced to the disk, which takes longer than reading a small design: what a power failure damages is noticed.
 static bool replaceFile(const QString &path, const QByteArray &bytes)
 {
-    const QFileInfo info(path);
-    if (info.isSymLink())
-        QFile::remove(path);
-    else if (info.isDir())
+    if (QFileInfo(path).isDir())
         QDir().rmdir(path);
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) &&
-           file.write(bytes) == bytes.size() && file.commit();
+    QTemporaryFile file(path + QStringLiteral(".XXXXXX")); // for the user only
+    if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
+        return false;
+    const QByteArray from = QFile::encodeName(file.fileName());
+    const bool isReplaced = std::rename(from.constData(), QFile::encodeName(path).constData()) == 0;
+    file.setAutoRemove(!isReplaced);
+    return isReplaced;
 }
 
 bool NetlistCache::store(const QByteArray &key, const ReadManifest &manifest, const ReadResult &result) const

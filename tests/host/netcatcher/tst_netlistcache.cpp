@@ -36,6 +36,7 @@ private slots:
     void entriesAreForTheirUserOnly();
     void badEntriesAreIgnoredAndReplaced_data();
     void badEntriesAreIgnoredAndReplaced();
+    void fullFolderInTheWayIsLeftAlone();
     void everyDamagedByteIsIgnored();
     void entryOfAnotherDesignIsIgnored();
     void incompleteManifestIsNotStored();
@@ -180,6 +181,17 @@ void TestNetlistCache::badEntriesAreIgnoredAndReplaced()
     QVERIFY(cache.store(key, ReadManifest(), someResult("two")));
     QCOMPARE(topOf(cache.find(key)), QString("two"));
     QVERIFY(!QFile::exists(dir->filePath("gone")));
+}
+
+void TestNetlistCache::fullFolderInTheWayIsLeftAlone()
+{
+    const NetlistCache cache(folder());
+    QVERIFY(cache.makeFolder());
+    const QString note = dir->write("cache/netlists/" + key + ".netlist/note.txt", "mine");
+    QVERIFY(!cache.store(key, ReadManifest(), someResult()));
+    QVERIFY(!cache.find(key));
+    QVERIFY(QFile::exists(note));
+    QCOMPARE(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }
 
 void TestNetlistCache::everyDamagedByteIsIgnored()
