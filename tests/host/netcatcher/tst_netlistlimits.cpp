@@ -24,6 +24,7 @@ void TestNetlistLimits::isRefusedWithItsLine_data()
     QTest::newRow("instances in two dimensions") << QByteArray("inv u [1:0][2:0] (.i(d), .o(q));");
     QTest::newRow("defparam into an array") << QByteArray("inv u [5:0] (.i(d), .o(q)); defparam u[0].N = 2;");
     QTest::newRow("charge strength") << QByteArray("trireg (small) held; assign held = d[0];");
+    QTest::newRow("pins of one name") << QByteArray("logic a [2]; one u1 (.in(a)); two u2 (.in(d));");
     QTest::newRow("dimensions behind an enumeration") << QByteArray("enum logic {A, B} [1:0] both;");
 }
 
