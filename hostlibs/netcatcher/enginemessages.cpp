@@ -37,6 +37,8 @@ static const Advice advices[] = {
     {"instantiation recursion", "a module instantiates itself without end"},
     {"--module-recursion-depth", "a module instantiates itself without end"},
     {"Recursive multiple modules", "modules instantiate each other without end"},
+    {"declaration not found for port",
+     "declare the port; modules that instantiate each other without end give this, too"},
     {"Recursive inclusion of file", "a file includes itself; guard it with `ifndef"},
     {"Too many preprocessor tokens on a line", "break the line, or check the macros in it"},
     {"memory exhausted", "expressions or blocks are nested too deep; name their parts"},

@@ -22,8 +22,8 @@ static const char engineProgram[] = "verilator_bin";
 static const char engineLibrary[] = "verilated_std.sv";
 static const char resultFolder[] = "vakout";
 static const char resultPrefix[] = "Vx";
-/// Larger files are generated tables and netlists; the engine's own complaints replace what a scan would find in them.
-constexpr qint64 maxScanBytes = 64 << 20;
+/// Larger files are left to the engine, whose own complaints replace most of what a scan would find in them.
+constexpr qint64 maxScanBytes = qint64(256) << 20;
 /// Three passes suffice for real designs; each further one must have learned something new.
 constexpr int maxPasses = 12;
 
@@ -145,6 +145,10 @@ void VerilatorEngine::scanSources()
     QVector<HdlScan> scans;
     for (int i = 0; i < sourceCount; ++i) {
         m_progress(progress);
+        if (QFileInfo(m_folder.filePath(m_files[i])).size() > maxScanBytes)
+            m_messages.append(QStringLiteral("WARNING: %1: The file is larger than %2 MB and is not looked through "
+                                             "beforehand; put it before the files that use its packages")
+                                  .arg(m_folder.userPath(m_files[i]), QString::number(maxScanBytes >> 20)));
         scans.append(scanner.scan(openSource(i)));
         progress.doneBytes += QFileInfo(m_folder.filePath(m_files[i])).size();
         m_all.modules += scans[i].modules;
