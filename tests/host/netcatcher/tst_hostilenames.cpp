@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QtTest>
 
 /// Names out of untrusted projects: whatever they look like, they are only names. Commands that hide in them would
@@ -31,8 +32,18 @@ private slots:
     void define();
     void topModule_data() { names(); }
     void topModule();
+    void includedFile_data() { names(); }
+    void includedFile();
+    void definedText_data() { names(); }
+    void definedText();
+    void optionAsTop_data();
+    void optionAsTop();
+    void optionInDefine_data() { optionAsTop_data(); }
+    void optionInDefine();
     void temporaryFolder_data() { names(); }
     void temporaryFolder();
+    void canaryCouldBeThere_data();
+    void canaryCouldBeThere();
 
 private:
     static void names();
@@ -157,6 +168,94 @@ void TestHostileNames::topModule()
     QCOMPARE(result.errors(), QStringList());
     QVERIFY(!result.netlist);
     QVERIFY(isUntouched());
+}
+
+/// The text in an include directive; the engine reads a backslash in it as itself.
+void TestHostileNames::includedFile()
+{
+    QFETCH(QString, name);
+    dir->write("rtl/" + name, "`define W 4\n");
+    const QString path =
+        dir->write("rtl/a.v", "`include \"" + name.toUtf8() + "\"\nmodule a(input [`W:0] x); endmodule\n");
+    const probe::Result result = probe::build(probe::sources({path}));
+    QVERIFY(isUntouched());
+    // These two end the text in the language itself.
+    if (name.contains('"') || name.contains('\n')) {
+        QVERIFY(!result.netlist);
+        for (const QString &line : result.messages)
+            QVERIFY2(line.startsWith("ERROR: " + path + ":"), qPrintable(line));
+        return;
+    }
+    QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
+    QCOMPARE(probe::rows(*result.netlist), QStringList("x[4:0]"));
+}
+
+/// What a macro's value says is HDL, and nothing else, where it is used.
+void TestHostileNames::definedText()
+{
+    QFETCH(QString, name);
+    NETCATCHER::DesignSources sources = probe::sources({dir->write(
+        "a.v", "module a(input x);\nwire y = x;\n`ifdef USED\ninitial $display(`TEXT);\n`endif\nendmodule\n")});
+    sources.defines = QStringList("TEXT=" + name);
+    const probe::Result unused = probe::build(sources);
+    QVERIFY2(unused.netlist, qPrintable(unused.messages.join('\n')));
+    QCOMPARE(probe::rows(*unused.netlist), QStringList({"x", "y"}));
+    sources.defines.append("USED");
+    const probe::Result used = probe::build(sources);
+    QVERIFY(used.netlist ? used.errors().isEmpty() : used.error.startsWith("ERROR: " + sources.files[0].path + ":"));
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::optionAsTop_data()
+{
+    QTest::addColumn<QString>("option");
+    for (const char *option :
+         {"--version", "-f", "-f canary", "--Mdir", "-o", "+define+X", "+libext+.v", "--exe", "--build", "-CFLAGS",
+          "--pipe-filter", "--pipe-filter 'touch canary'", "--gdb", "--debug", "-", "--", "@canary"})
+        QTest::newRow(option) << option;
+}
+
+void TestHostileNames::optionAsTop()
+{
+    QFETCH(QString, option);
+    const probe::Result result = probe::build(probe::sources({dir->write("a.v", design)}, option));
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(result.modules, QStringList());
+    QVERIFY(!result.netlist);
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::optionInDefine()
+{
+    QFETCH(QString, option);
+    NETCATCHER::DesignSources sources = probe::sources({dir->write("a.v", design)});
+    sources.defines = QStringList({option, "UNUSED=" + option});
+    sources.includePaths = QStringList(option);
+    sources.standard = option;
+    const probe::Result result = probe::build(sources);
+    QCOMPARE(result.messages, QStringList("WARNING: " + option + ": There is no such include folder."));
+    QVERIFY(result.netlist);
+    QCOMPARE(probe::rows(*result.netlist), QStringList({"x", "y"}));
+    QVERIFY(isUntouched());
+}
+
+void TestHostileNames::canaryCouldBeThere_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"$(touch canary)", "`touch canary`", "a;touch canary", "a&touch canary", "a|touch canary", "a\ntouch canary"})
+        QTest::newRow(name) << name;
+}
+
+/// A shell that is given such a name does leave the file behind that the other tests look for.
+void TestHostileNames::canaryCouldBeThere()
+{
+    QFETCH(QString, name);
+    QVERIFY(isUntouched());
+    QProcess shell;
+    shell.start("/bin/sh", {"-c", "true " + name + "; wait"});
+    QVERIFY(shell.waitForFinished());
+    QVERIFY(!isUntouched());
 }
 
 void TestHostileNames::temporaryFolder()
