@@ -34,6 +34,7 @@ private slots:
     void netlistIsBuiltFromTheSameEngineRun();
     void netlistCanBeBuiltAgain();
     void progressDialogIsShownByBothCalls();
+    void progressTellsStageBytesAndTime();
     void progressDialogCannotBeClosed();
     void progressDialogMayLoseItsParent();
     void withoutModulesReadTheLibrarySaysSo();
@@ -42,7 +43,7 @@ private slots:
 
 private:
     QMap<QString, QVariant> info(const QByteArray &source, const QString &top = {}) const;
-    void installSlowEngine() const;
+    void installSlowEngine(const QByteArray &seconds = "0.4") const;
 
     std::unique_ptr<support::TempDir> dir;
     QByteArray path;
@@ -77,6 +78,29 @@ protected:
 
 private:
     std::function<void(QProgressDialog &)> seen;
+};
+
+/// Notes what every progress dialog has shown while this lives, whenever its text is painted anew.
+class ProgressRecorder : public QObject
+{
+public:
+    ProgressRecorder() { qApp->installEventFilter(this); }
+
+    QStringList texts;
+    QStringList busyTexts; ///< those shown with a bar without a measure
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *label = event->type() == QEvent::Paint ? qobject_cast<QLabel *>(watched) : nullptr;
+        auto *dialog = label ? qobject_cast<QProgressDialog *>(label->parent()) : nullptr;
+        if (dialog && !texts.contains(label->text())) {
+            texts.append(label->text());
+            if (dialog->findChild<QProgressBar *>()->maximum() == 0)
+                busyTexts.append(label->text());
+        }
+        return false;
+    }
 };
 
 struct Lists
@@ -121,10 +145,10 @@ QMap<QString, QVariant> TestNetcatcher::info(const QByteArray &source, const QSt
 }
 
 /// Lets the real engine wait a little.
-void TestNetcatcher::installSlowEngine() const
+void TestNetcatcher::installSlowEngine(const QByteArray &seconds) const
 {
     const QString program =
-        dir->write("bin/verilator_bin", "#!/bin/sh\nsleep 0.4\nexec /usr/bin/verilator_bin \"$@\"\n");
+        dir->write("bin/verilator_bin", "#!/bin/sh\nsleep " + seconds + "\nexec /usr/bin/verilator_bin \"$@\"\n");
     QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
     qputenv("PATH", QFile::encodeName(dir->filePath("bin")) + ':' + path);
 }
@@ -198,6 +222,27 @@ void TestNetcatcher::progressDialogIsShownByBothCalls()
     QVERIFY(isModal && hasBar);
     for (const QWidget *window : QApplication::topLevelWidgets())
         QVERIFY(!qobject_cast<const QProgressDialog *>(window) || !window->isVisible());
+}
+
+void TestNetcatcher::progressTellsStageBytesAndTime()
+{
+    installSlowEngine("1.2");
+    QByteArray source = "module a(input x);\n";
+    for (int i = 0; i < 5000; ++i)
+        source += "wire w" + QByteArray::number(i) + " = x;\n";
+    const ProgressRecorder recorder;
+    catchModules(info(source + "endmodule\n"));
+    const auto shown = [&recorder](const QString &pattern) {
+        return recorder.texts.filter(QRegularExpression("\\A" + pattern + "\\z")).size();
+    };
+    const QString size = "[0-9.,]+ (bytes|[KM]iB)";
+    QVERIFY(shown("Reading the source files, 0 bytes of " + size + "\nElapsed: 0 s") == 1);
+    QVERIFY(shown("Elaborating the design\nElapsed: 0 s") == 1);
+    QVERIFY(shown("Elaborating the design\nElapsed: 1 s") == 1);
+    QVERIFY(shown("Reading the elaborated design, " + size + " of " + size + "\nElapsed: [0-9]+ s") >= 1);
+    QVERIFY(shown("Building the netlist\nElapsed: [0-9]+ s") >= 1);
+    QCOMPARE(recorder.busyTexts,
+             recorder.texts.filter(QRegularExpression("^(Elaborating the design|Building the netlist)\n")));
 }
 
 void TestNetcatcher::progressDialogCannotBeClosed()
