@@ -35,6 +35,8 @@ private slots:
     void fileListIsRead();
     void errorsGoToStandardError();
     void missingLandlockIsTold();
+    void whatIsTooWideIsTold();
+    void missingEngineIsTold();
     void definesAndIncludeFolders();
     void usageErrors_data();
     void usageErrors();
@@ -253,6 +255,29 @@ void TestNets::missingLandlockIsTold()
                run.error.toUtf8() + run.output.toUtf8();
     });
     QCOMPARE(told, QByteArray("warned 0\nclk\nu_mem/clk\n"));
+}
+
+void TestNets::whatIsTooWideIsTold()
+{
+    const support::TempDir dir;
+    const CliRun run = runRtlvak({"nets", dir.write("a.v", "module a(input [99999999:0] x); endmodule\n")});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.error, QString("WARNING: x in module a is too wide to be taken apart and cannot be used\n"));
+    QCOMPARE(run.output, QString("x[99999999:0]\tunusable\n"));
+}
+
+void TestNets::missingEngineIsTold()
+{
+    const support::TempDir dir;
+    const QByteArray before = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(dir.path()));
+    const CliRun run = runRtlvak({"nets", data("usable.v")});
+    qputenv("PATH", before);
+    QCOMPARE(run.status, 1);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.error.section('\n', 0, 0),
+             QString("ERROR: The Verilog engine verilator_bin is not installed; install the Debian package "
+                     "\"verilator\" (apt install verilator)."));
 }
 
 void TestNets::definesAndIncludeFolders()
