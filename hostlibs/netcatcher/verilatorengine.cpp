@@ -285,8 +285,24 @@ VerilatorEngine::Outcome VerilatorEngine::run()
         return Failed;
     }
     scanSources();
-    if (hasErrors())
-        return Failed;
+    return hasErrors() ? Failed : runPasses(engine);
+}
+
+/// Says why, when the engine did not get as far as reading the sources.
+bool VerilatorEngine::hasStarted(const EngineResult &result, const QString &engine)
+{
+    if (result.outcome == EngineResult::Unconfined)
+        addError(QStringLiteral("The Verilog engine was not run, because Landlock could not confine it; start this "
+                                "program outside of other sandboxes."));
+    else if (result.outcome == EngineResult::NotStarted)
+        addError(QStringLiteral("The Verilog engine %1 cannot be started.").arg(engine));
+    else
+        return true;
+    return false;
+}
+
+VerilatorEngine::Outcome VerilatorEngine::runPasses(const QString &engine)
+{
     QElapsedTimer timer;
     timer.start();
     for (int pass = 1;; ++pass) {
@@ -301,15 +317,8 @@ VerilatorEngine::Outcome VerilatorEngine::run()
             m_progress({BuildProgress::RunningEngine, 0, 0});
         });
         m_isUnconfined = !result.isConfined;
-        if (result.outcome == EngineResult::Unconfined) {
-            addError(QStringLiteral("The Verilog engine was not run, because Landlock could not confine it; start this "
-                                    "program outside of other sandboxes."));
+        if (!hasStarted(result, engine))
             return Failed;
-        }
-        if (result.outcome == EngineResult::NotStarted) {
-            addError(QStringLiteral("The Verilog engine %1 cannot be started.").arg(engine));
-            return Failed;
-        }
         const QVector<EngineMessage> messages = parseEngineMessages(relativeToFolder(result.messages));
         const bool hasEnded = result.outcome == EngineResult::Finished && result.exitCode == 0;
         const bool isOver = hasEnded || result.outcome == EngineResult::TimedOut || pass == maxPasses;

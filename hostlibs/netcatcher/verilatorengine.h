@@ -53,6 +53,8 @@ private:
     void scanSources();
     HdlText openSource(int origin);
     std::optional<HdlText> openInclude(const QByteArray &name, int origin);
+    Outcome runPasses(const QString &engine);
+    bool hasStarted(const EngineResult &result, const QString &engine);
     bool learn(const QVector<EngineMessage> &messages);
     bool learnIncludes(const QVector<EngineMessage> &messages);
     QStringList arguments() const;
