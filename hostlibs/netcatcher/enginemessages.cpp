@@ -98,6 +98,12 @@ static void removeAftermath(QVector<EngineMessage> &messages)
         messages.erase(std::remove_if(messages.begin(), messages.end(), isInternal), messages.end());
 }
 
+bool EngineMessage::isSyntaxError() const
+{
+    return isError && (text.startsWith(QLatin1String("syntax error")) ||
+                       text.contains(QLatin1String("is a SystemVerilog keyword misused")));
+}
+
 QVector<EngineMessage> parseEngineMessages(const QByteArray &output)
 {
     static const QRegularExpression line(QStringLiteral("^%(Error|Warning)(?:-(\\w+))?: (.*)$"));

@@ -21,6 +21,9 @@ struct EngineMessage
     QString file; ///< plain name; empty when the message is about no place
     int line = 0;
     QString text;
+
+    /// Whether the engine stumbled over the text itself, not over what it means.
+    bool isSyntaxError() const;
 };
 
 /// The messages in the engine's output, without its quotations of source lines, its closing remarks, and complaints

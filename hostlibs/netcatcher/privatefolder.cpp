@@ -64,6 +64,16 @@ QString PrivateFolder::addSource(const SourceFile &file)
     return plainName;
 }
 
+QString PrivateFolder::changeSuffix(const QString &plainName, const QString &suffix)
+{
+    const QFileInfo info(plainName);
+    const QString newName = info.path() + QLatin1Char('/') + info.completeBaseName() + QLatin1Char('.') + suffix;
+    if (!QFile::rename(filePath(plainName), filePath(newName)))
+        return plainName;
+    m_userPaths.insert(newName, m_userPaths.take(plainName));
+    return newName;
+}
+
 void PrivateFolder::addIncludeFolder(const QString &path)
 {
     m_includeFolders.append(path);

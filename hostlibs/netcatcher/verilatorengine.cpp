@@ -20,6 +20,8 @@ namespace NETCATCHER {
 static const char engineProgram[] = "verilator_bin";
 /// Its own declarations for designs that use mailboxes, semaphores or processes.
 static const char engineLibrary[] = "verilated_std.sv";
+/// Of sources in which words of SystemVerilog are names.
+static const char plainVerilogSuffix[] = "v2005";
 static const char resultFolder[] = "vakout";
 static const char resultPrefix[] = "Vx";
 /// Larger files are left to the engine, whose own complaints replace most of what a scan would find in them.
@@ -202,6 +204,7 @@ QStringList VerilatorEngine::arguments() const
         result << QStringLiteral("--default-language") << language;
     // SystemVerilog files are that whatever the standard of the others; stand-ins may have any word as a pin's name.
     result << QStringLiteral("+1800-2017ext+sv") << QStringLiteral("+1364-2005ext+") + BlackBoxes::suffix();
+    result << QStringLiteral("+1364-2005ext+") + QLatin1String(plainVerilogSuffix);
     result << QStringLiteral("+libext+.") + BlackBoxes::suffix() << QStringLiteral("-y") << BlackBoxes::folderName();
     const QStringList includeFolders = m_folder.includeFolders();
     for (const QString &folder : includeFolders)
@@ -224,10 +227,42 @@ bool VerilatorEngine::learnIncludes(const QVector<EngineMessage> &messages)
     return learned;
 }
 
+bool VerilatorEngine::setPlainVerilog(int file, bool isPlain)
+{
+    const QString suffix = isPlain ? QLatin1String(plainVerilogSuffix) : QLatin1String("v");
+    const QString before = m_files[file];
+    m_files[file] = m_folder.changeSuffix(before, suffix);
+    return m_files[file] != before;
+}
+
+/// Old Verilog uses words as names that newer standards took: `do`, `bit`, `final`. A file that the engine cannot parse
+/// is tried as Verilog 2005, once; when that is no better, what was said first is what to tell.
+bool VerilatorEngine::learnKeywords(const QVector<EngineMessage> &messages)
+{
+    bool learned = false;
+    for (const EngineMessage &message : messages) {
+        const int file = m_files.indexOf(message.file);
+        if (file < 0)
+            continue;
+        if (message.file.endsWith(QLatin1String(plainVerilogSuffix))) {
+            // A type of SystemVerilog looks like an interface there.
+            const bool isNoBetter = message.isSyntaxError() ||
+                                    message.text.startsWith(QLatin1String("Cannot find file containing interface"));
+            learned = (isNoBetter && setPlainVerilog(file, false)) || learned;
+        } else if (message.isSyntaxError() && message.file.endsWith(QLatin1String(".v")) &&
+                   !m_triedAsPlain.contains(file)) {
+            m_triedAsPlain.insert(file);
+            learned = setPlainVerilog(file, true) || learned;
+        }
+    }
+    return learned;
+}
+
 bool VerilatorEngine::learn(const QVector<EngineMessage> &messages)
 {
     const bool includes = learnIncludes(messages);
-    return m_blackBoxes.learn(messages) || includes;
+    const bool keywords = learnKeywords(messages);
+    return m_blackBoxes.learn(messages) || includes || keywords;
 }
 
 /// What the engine says when the sources are fine but hold nothing to elaborate; users are asked about that otherwise.

@@ -57,6 +57,8 @@ private:
     bool hasStarted(const EngineResult &result, const QString &engine);
     bool learn(const QVector<EngineMessage> &messages);
     bool learnIncludes(const QVector<EngineMessage> &messages);
+    bool learnKeywords(const QVector<EngineMessage> &messages);
+    bool setPlainVerilog(int file, bool isPlain);
     QStringList arguments() const;
     Outcome judge(const EngineResult &result, const QVector<EngineMessage> &messages);
     QByteArray relativeToFolder(QByteArray output) const;
@@ -67,8 +69,9 @@ private:
     const ProgressFunction m_progress;
     ReadManifest &m_manifest;
     PrivateFolder m_folder;
-    QStringList m_files;  ///< plain names of the sources, by origin; those of includes follow
-    QVector<int> m_order; ///< of the sources
+    QStringList m_files;      ///< plain names of the sources, by origin; those of includes follow
+    QVector<int> m_order;     ///< of the sources
+    QSet<int> m_triedAsPlain; ///< sources in which words of SystemVerilog may be names
     HdlScan m_all;
     BlackBoxes m_blackBoxes;
     QStringList m_messages;

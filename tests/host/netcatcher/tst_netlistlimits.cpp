@@ -15,7 +15,6 @@ class TestNetlistLimits : public QObject
 private slots:
     void isRefusedWithItsLine_data();
     void isRefusedWithItsLine();
-    void wordsOfSystemVerilogNeedAStandard();
 };
 
 void TestNetlistLimits::isRefusedWithItsLine_data()
@@ -39,18 +38,6 @@ void TestNetlistLimits::isRefusedWithItsLine()
     QVERIFY(!result.netlist);
     QVERIFY(!result.errors().isEmpty());
     QVERIFY2(result.errors().first().startsWith("ERROR: " + path + ":3: "), qPrintable(result.errors().first()));
-}
-
-void TestNetlistLimits::wordsOfSystemVerilogNeedAStandard()
-{
-    const support::TempDir dir;
-    const QString path = dir.write("design.v", "module top (input weak, output do);\nassign do = weak;\nendmodule\n");
-    NETCATCHER::DesignSources sources = probe::sources({path});
-    QVERIFY(probe::build(sources).errors().first().startsWith("ERROR: " + path + ":1: "));
-    sources.standard = "1364-2005";
-    const probe::Result result = probe::build(sources);
-    QCOMPARE(result.messages, QStringList());
-    QCOMPARE(probe::rows(*result.netlist), QStringList({"weak", "do"}));
 }
 
 QTEST_GUILESS_MAIN(TestNetlistLimits)
