@@ -3,7 +3,11 @@
 
 #include "hostlibs/netcatcher/netstore.h"
 
+#include <QFile>
 #include <QtTest>
+
+#include <malloc.h>
+#include <unistd.h>
 
 using namespace NETCATCHER;
 
@@ -27,6 +31,9 @@ private slots:
     void tooManyInstancesAreRefused();
     void jtagPrimitiveBelowTheTop();
     void extremeRanges();
+#ifndef __SANITIZE_ADDRESS__ // the memory of an instrumented program says nothing
+    void aMillionNetsTakeLittleMemory();
+#endif
 };
 
 static std::unique_ptr<RtlNetlist> makeNetlist(ModuleTable table)
@@ -278,6 +285,39 @@ void TestNetStore::extremeRanges()
     QCOMPARE(netlist->findNet("high[2147483647]")->name(), QString("high[2147483647]"));
     QVERIFY(!netlist->findNet("all[0]"));
 }
+
+#ifndef __SANITIZE_ADDRESS__
+static qint64 residentBytes()
+{
+    malloc_trim(0);
+    QFile file("/proc/self/statm");
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toLongLong() * getpagesize() : 0;
+}
+
+void TestNetStore::aMillionNetsTakeLittleMemory()
+{
+    constexpr int instances = 5000;
+    constexpr int netsOfEach = 200;
+    ModuleTable table;
+    ModuleDef leaf = module("leaf");
+    for (int i = 0; i < netsOfEach / 2; ++i) {
+        leaf.addSingle("single" + QByteArray::number(i), false);
+        leaf.addBus("bus" + QByteArray::number(i), 7, 0, false);
+    }
+    ModuleDef top = module("top");
+    for (int i = 0; i < instances; ++i)
+        top.children.push_back({"u" + QByteArray::number(i), 1});
+    table.modules = {top, leaf};
+    const qint64 before = residentBytes();
+    QVERIFY(before > 0);
+    const auto netlist = makeNetlist(std::move(table));
+    const auto singles = netlist->topHierarchy()->singleNetsIncludeSub();
+    const auto buses = netlist->topHierarchy()->netbusesIncludeSub();
+    QCOMPARE(singles.size() + buses.size(), instances * netsOfEach);
+    const double bytesEach = double(residentBytes() - before) / (instances * netsOfEach);
+    QVERIFY2(bytesEach > 2 * sizeof(void *) - 1 && bytesEach < 18, qPrintable(QString::number(bytesEach)));
+}
+#endif
 
 QTEST_GUILESS_MAIN(TestNetStore)
 #include "tst_netstore.moc"

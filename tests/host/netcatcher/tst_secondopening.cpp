@@ -10,6 +10,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QtTest>
 
@@ -62,6 +63,7 @@ class TestSecondOpening : public QObject
 private slots:
     void givesTheSame_data();
     void givesTheSame();
+    void isManyTimesFaster();
     void runsNoEngineWhenNothingChanged_data();
     void runsNoEngineWhenNothingChanged();
     void runsTheEngineAfterAChange_data();
@@ -151,6 +153,21 @@ void TestSecondOpening::givesTheSame()
     scene.engine.turnOff();
     QCOMPARE(description(probe::build(sources)), first);
     QVERIFY(first.first() == "read: 1" && !first.contains(engineFailed));
+}
+
+void TestSecondOpening::isManyTimesFaster()
+{
+    Scene scene;
+    QByteArray text = "module top(input clk, input d0);\n";
+    for (int i = 1; i <= 5000; ++i)
+        text += QString("reg d%1; always @(posedge clk) d%1 <= d%2;\n").arg(i).arg(i - 1).toLatin1();
+    const DesignSources sources = probe::sources({scene.dir.write("long.v", text + "endmodule\n")});
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(probe::build(sources).netlist);
+    const qint64 first = timer.restart();
+    QVERIFY(probe::build(sources).netlist);
+    QVERIFY2(timer.elapsed() * 10 <= first, qPrintable(QString("%1 ms, %2 ms").arg(first).arg(timer.elapsed())));
 }
 
 void TestSecondOpening::runsNoEngineWhenNothingChanged_data()
