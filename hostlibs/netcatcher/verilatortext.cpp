@@ -11,6 +11,12 @@
 
 namespace NETCATCHER {
 
+QByteArray utf8OfSource(const QByteArray &bytes)
+{
+    const QString text = QString::fromUtf8(bytes);
+    return text.contains(QChar(QChar::ReplacementCharacter)) ? QString::fromLatin1(bytes).toUtf8() : bytes;
+}
+
 QByteArray decodedVerilatorName(const QByteArray &name)
 {
     static const QList<std::pair<QByteArray, QByteArray>> words{{"__DOT__", "."}, {"__BRA__", "["}, {"__KET__", "]"}};
@@ -31,7 +37,7 @@ QByteArray decodedVerilatorName(const QByteArray &name)
             result += name[i++];
         }
     }
-    return result;
+    return utf8OfSource(result);
 }
 
 bool parseVerilatorConstant(const QString &text, int *value)

@@ -7,8 +7,11 @@
 #include "verilatortags.h"
 #include "verilatortext.h"
 #include "verilatortypes.h"
+#include "xmlbytes.h"
 
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace NETCATCHER {
 
@@ -35,8 +38,10 @@ struct Frame
 class Reader
 {
 public:
-    Reader(QIODevice &device, RawDesign &result)
-        : xml(&device)
+    Reader(QIODevice &source, RawDesign &result)
+        : device(source)
+        , bytes(source)
+        , xml(&bytes)
         , design(result)
         , types(result.types)
     {
@@ -64,6 +69,8 @@ private:
     void setRange(int position, int value);
     bool isInModule() const { return moduleDepth > 0 && stack.size() >= moduleDepth; }
 
+    QIODevice &device;
+    XmlBytes bytes;
     QXmlStreamReader xml;
     QXmlStreamAttributes attributes;
     RawDesign &design;
@@ -79,7 +86,9 @@ private:
 
 QByteArray Reader::text(const char *attribute) const
 {
-    return attributes.value(QLatin1String(attribute)).toUtf8();
+    const QByteArray name = attributes.value(QLatin1String(attribute)).toLatin1();
+    const bool isPlain = std::none_of(name.cbegin(), name.cend(), [](char byte) { return quint8(byte) >= 0x80; });
+    return isPlain ? name : utf8OfSource(name);
 }
 
 int Reader::number(const char *attribute) const
@@ -99,7 +108,7 @@ bool Reader::read(const std::function<void(qint64)> &progress, QString *error)
         else if (token == QXmlStreamReader::DTD)
             xml.raiseError(QStringLiteral("a document type definition"));
         if (++elements % 4096 == 0)
-            progress(xml.device()->pos());
+            progress(device.pos());
     }
     if (xml.hasError())
         *error = QStringLiteral("line %1: %2").arg(xml.lineNumber()).arg(xml.errorString());

@@ -23,6 +23,7 @@ private slots:
     void constants();
     void names_data();
     void names();
+    void referencesToBytesAreBytes();
     void truncatedTextIsAnError();
     void foreignTextIsAnError_data();
     void foreignTextIsAnError();
@@ -153,6 +154,18 @@ void TestVerilatorXml::names()
 {
     QFETCH(QByteArray, encoded);
     QTEST(decodedVerilatorName(encoded), "decoded");
+}
+
+void TestVerilatorXml::referencesToBytesAreBytes()
+{
+    // Long enough to come in several pieces, with borders anywhere in the references.
+    const QByteArray name = QByteArray("&#195;&#188;&#27;&quot;&#233;x").repeated(20000);
+    RawDesign design;
+    QString error;
+    QVERIFY2(read(QByteArray(sample).replace("name=\"clk\"", "name=\"" + name + '"'), design, &error),
+             qPrintable(error));
+    const QByteArray bytes = QByteArray("\xc3\xbc?????\"\xe9x").repeated(20000);
+    QVERIFY(design.modules[0].variables[0].name == utf8OfSource(bytes));
 }
 
 void TestVerilatorXml::truncatedTextIsAnError()
