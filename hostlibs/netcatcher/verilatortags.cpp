@@ -27,6 +27,7 @@ static QHash<QStringView, Tag> makeTags()
         {u"const", Tag::Constant},
         {u"func", Tag::Function},
         {u"task", Tag::Function},
+        {u"clocking", Tag::Function}, // its items have the names of the nets that they sample
         {u"initial", Tag::Initial},
         {u"initialautomatic", Tag::Initial},
         {u"initialstatic", Tag::Initial},

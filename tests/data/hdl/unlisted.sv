@@ -82,6 +82,10 @@ module unlisted
     inner = {6'b0, a};
     z = inner[0] ^ pick(a, 1);
   end
+  clocking block @(posedge clk);
+    input a;
+    output y;
+  endclocking
   either u_either (inner, a[0], a[1]);
   loop u_loop (.a(a), .y(y));
   hidden u_hidden (.a({inner, always_one}), .y());
