@@ -3,6 +3,7 @@
 
 #include "netlistprobe.h"
 
+#include "support/engineswitch.h"
 #include "support/tempdir.h"
 
 #include <QDir>
@@ -11,7 +12,7 @@
 #include <QtTest>
 
 /// Names out of untrusted projects: whatever they look like, they are only names. Commands that hide in them would
-/// leave a file named "canary" in the working folder.
+/// leave a file named "canary" in the working folder, which for those that come with the engine is its own.
 class TestHostileNames : public QObject
 {
     Q_OBJECT
@@ -44,15 +45,28 @@ private slots:
     void temporaryFolder();
     void canaryCouldBeThere_data();
     void canaryCouldBeThere();
+    void canaryOfTheEngineCouldBeThere();
 
 private:
     static void names();
+    void watchEngine(const QByteArray &before) const;
+    probe::Result build(const NETCATCHER::DesignSources &sources);
     bool isUntouched() const;
 
     std::unique_ptr<support::TempDir> dir;
+    std::unique_ptr<support::EngineSwitch> engine;
+    bool hasSung = false; ///< the canary of the engine
     QString workingFolder;
     QByteArray temporary;
 };
+
+constexpr int maxNameBytes = 255;
+
+/// The longest names have no room for a suffix.
+static QString withSuffix(const QString &name, const QString &suffix)
+{
+    return name.left(maxNameBytes - suffix.size()) + suffix;
+}
 
 void TestHostileNames::names()
 {
@@ -75,7 +89,7 @@ void TestHostileNames::names()
     QTest::newRow("question mark and bracket") << "?[a";
     QTest::newRow("backslash") << "a\\nb";
     QTest::newRow("non-ASCII") << QStringLiteral("gr\u00f6\u00dfe\u4f60");
-    QTest::newRow("long") << QString(250, QLatin1Char('n'));
+    QTest::newRow("long") << QString(maxNameBytes, QLatin1Char('n'));
     QTest::newRow("option") << "-f list";
     QTest::newRow("braces") << "${HOME}{a,b}";
 }
@@ -83,6 +97,9 @@ void TestHostileNames::names()
 void TestHostileNames::init()
 {
     dir = std::make_unique<support::TempDir>();
+    engine = std::make_unique<support::EngineSwitch>();
+    watchEngine({});
+    hasSung = false;
     workingFolder = QDir::currentPath();
     temporary = qgetenv("TMPDIR");
     QVERIFY(QDir::setCurrent(dir->path()));
@@ -90,13 +107,31 @@ void TestHostileNames::init()
 
 void TestHostileNames::cleanup()
 {
+    engine.reset();
     QDir::setCurrent(workingFolder);
     temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
 }
 
+static const char song[] = "the canary sings";
+
+/// Lets the engine say whether there is a canary in its folder, which is gone when a test could look.
+void TestHostileNames::watchEngine(const QByteArray &before) const
+{
+    const QByteArray look = QByteArray("status=$?\n[ -z \"$(find . -name canary)\" ] || echo '%Error: ") + song + "'\n";
+    engine->replace(before, look + "exit $status");
+}
+
+probe::Result TestHostileNames::build(const NETCATCHER::DesignSources &sources)
+{
+    probe::Result result = probe::build(sources);
+    hasSung = hasSung || !result.messages.filter(song).isEmpty();
+    return result;
+}
+
 bool TestHostileNames::isUntouched() const
 {
-    return !QFile::exists(dir->filePath("canary")) && QDir(dir->path()).entryList({"*canary*"}, QDir::Files).isEmpty();
+    return !hasSung && !QFile::exists(dir->filePath("canary")) &&
+           QDir(dir->path()).entryList({"*canary*"}, QDir::Files).isEmpty();
 }
 
 static const char design[] = "module a(input x); wire y = x; endmodule\n";
@@ -104,8 +139,8 @@ static const char design[] = "module a(input x); wire y = x; endmodule\n";
 void TestHostileNames::sourceFile()
 {
     QFETCH(QString, name);
-    const QString path = dir->write("rtl/" + name + ".v", design);
-    const probe::Result result = probe::build(probe::sources({path}));
+    const QString path = dir->write("rtl/" + withSuffix(name, ".v"), design);
+    const probe::Result result = build(probe::sources({path}));
     QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
     QCOMPARE(probe::rows(*result.netlist), QStringList({"x", "y"}));
     QVERIFY(isUntouched());
@@ -114,8 +149,8 @@ void TestHostileNames::sourceFile()
 void TestHostileNames::errorInSourceFile()
 {
     QFETCH(QString, name);
-    const QString path = dir->write("rtl/" + name + ".v", "\nmodule a(input x)\nendmodule\n");
-    const probe::Result result = probe::build(probe::sources({path}));
+    const QString path = dir->write("rtl/" + withSuffix(name, ".v"), "\nmodule a(input x)\nendmodule\n");
+    const probe::Result result = build(probe::sources({path}));
     QVERIFY(!result.errors().isEmpty());
     QVERIFY2(result.errors().first().startsWith("ERROR: " + path + ":3: syntax error"),
              qPrintable(result.errors().first()));
@@ -127,7 +162,7 @@ void TestHostileNames::folderOfSources()
     QFETCH(QString, name);
     const QString path = dir->write(name + "/a.v", "`include \"w.vh\"\nmodule a(input [`W:0] x); endmodule\n");
     dir->write(name + "/w.vh", "`define W 4\n");
-    const probe::Result result = probe::build(probe::sources({path}));
+    const probe::Result result = build(probe::sources({path}));
     QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
     QCOMPARE(probe::rows(*result.netlist), QStringList("x[4:0]"));
     QVERIFY(isUntouched());
@@ -141,7 +176,7 @@ void TestHostileNames::includeFolder()
     dir->write(name + "/v.vh", "`define W 4\n");
     NETCATCHER::DesignSources sources = probe::sources({path});
     sources.includePaths.append(dir->filePath(name));
-    const probe::Result result = probe::build(sources);
+    const probe::Result result = build(sources);
     QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
     QCOMPARE(probe::rows(*result.netlist), QStringList("x[4:0]"));
     QVERIFY(isUntouched());
@@ -152,10 +187,10 @@ void TestHostileNames::define()
     QFETCH(QString, name);
     NETCATCHER::DesignSources sources = probe::sources({dir->write("a.v", design)});
     sources.defines.append(name);
-    const probe::Result named = probe::build(sources);
+    const probe::Result named = build(sources);
     QVERIFY(named.netlist || !named.errors().isEmpty());
     sources.defines = QStringList("UNUSED=" + name);
-    const probe::Result valued = probe::build(sources);
+    const probe::Result valued = build(sources);
     QVERIFY(valued.netlist || !valued.errors().isEmpty());
     QVERIFY(isUntouched());
 }
@@ -163,7 +198,7 @@ void TestHostileNames::define()
 void TestHostileNames::topModule()
 {
     QFETCH(QString, name);
-    const probe::Result result = probe::build(probe::sources({dir->write("a.v", design)}, name));
+    const probe::Result result = build(probe::sources({dir->write("a.v", design)}, name));
     QCOMPARE(result.modules, QStringList());
     QCOMPARE(result.errors(), QStringList());
     QVERIFY(!result.netlist);
@@ -177,7 +212,7 @@ void TestHostileNames::includedFile()
     dir->write("rtl/" + name, "`define W 4\n");
     const QString path =
         dir->write("rtl/a.v", "`include \"" + name.toUtf8() + "\"\nmodule a(input [`W:0] x); endmodule\n");
-    const probe::Result result = probe::build(probe::sources({path}));
+    const probe::Result result = build(probe::sources({path}));
     QVERIFY(isUntouched());
     // These two end the text in the language itself.
     if (name.contains('"') || name.contains('\n')) {
@@ -197,11 +232,11 @@ void TestHostileNames::definedText()
     NETCATCHER::DesignSources sources = probe::sources({dir->write(
         "a.v", "module a(input x);\nwire y = x;\n`ifdef USED\ninitial $display(`TEXT);\n`endif\nendmodule\n")});
     sources.defines = QStringList("TEXT=" + name);
-    const probe::Result unused = probe::build(sources);
+    const probe::Result unused = build(sources);
     QVERIFY2(unused.netlist, qPrintable(unused.messages.join('\n')));
     QCOMPARE(probe::rows(*unused.netlist), QStringList({"x", "y"}));
     sources.defines.append("USED");
-    const probe::Result used = probe::build(sources);
+    const probe::Result used = build(sources);
     QVERIFY(used.netlist ? used.errors().isEmpty() : used.error.startsWith("ERROR: " + sources.files[0].path + ":"));
     QVERIFY(isUntouched());
 }
@@ -218,7 +253,7 @@ void TestHostileNames::optionAsTop_data()
 void TestHostileNames::optionAsTop()
 {
     QFETCH(QString, option);
-    const probe::Result result = probe::build(probe::sources({dir->write("a.v", design)}, option));
+    const probe::Result result = build(probe::sources({dir->write("a.v", design)}, option));
     QCOMPARE(result.messages, QStringList());
     QCOMPARE(result.modules, QStringList());
     QVERIFY(!result.netlist);
@@ -232,7 +267,7 @@ void TestHostileNames::optionInDefine()
     sources.defines = QStringList({option, "UNUSED=" + option});
     sources.includePaths = QStringList(option);
     sources.standard = option;
-    const probe::Result result = probe::build(sources);
+    const probe::Result result = build(sources);
     QCOMPARE(result.messages, QStringList("WARNING: " + option + ": There is no such include folder."));
     QVERIFY(result.netlist);
     QCOMPARE(probe::rows(*result.netlist), QStringList({"x", "y"}));
@@ -258,6 +293,16 @@ void TestHostileNames::canaryCouldBeThere()
     QVERIFY(!isUntouched());
 }
 
+void TestHostileNames::canaryOfTheEngineCouldBeThere()
+{
+    const NETCATCHER::DesignSources sources = probe::sources({dir->write("a.v", design)});
+    build(sources);
+    QVERIFY(isUntouched());
+    watchEngine("mkdir -p vakout; touch vakout/canary");
+    build(sources);
+    QVERIFY(!isUntouched());
+}
+
 void TestHostileNames::temporaryFolder()
 {
     QFETCH(QString, name);
@@ -265,7 +310,7 @@ void TestHostileNames::temporaryFolder()
     dir->write("w.vh", "`define W 4\n");
     QVERIFY(QDir(dir->path()).mkdir(name));
     qputenv("TMPDIR", QFile::encodeName(dir->filePath(name)));
-    const probe::Result result = probe::build(probe::sources({path}));
+    const probe::Result result = build(probe::sources({path}));
     QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
     QCOMPARE(probe::rows(*result.netlist), QStringList("x[4:0]"));
     QVERIFY(isUntouched());
