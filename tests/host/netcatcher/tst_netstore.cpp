@@ -31,9 +31,7 @@ private slots:
     void tooManyInstancesAreRefused();
     void jtagPrimitiveBelowTheTop();
     void extremeRanges();
-#ifndef __SANITIZE_ADDRESS__ // the memory of an instrumented program says nothing
     void aMillionNetsTakeLittleMemory();
-#endif
 };
 
 static std::unique_ptr<RtlNetlist> makeNetlist(ModuleTable table)
@@ -286,7 +284,6 @@ void TestNetStore::extremeRanges()
     QVERIFY(!netlist->findNet("all[0]"));
 }
 
-#ifndef __SANITIZE_ADDRESS__
 static qint64 residentBytes()
 {
     malloc_trim(0);
@@ -315,9 +312,8 @@ void TestNetStore::aMillionNetsTakeLittleMemory()
     const auto buses = netlist->topHierarchy()->netbusesIncludeSub();
     QCOMPARE(singles.size() + buses.size(), instances * netsOfEach);
     const double bytesEach = double(residentBytes() - before) / (instances * netsOfEach);
-    QVERIFY2(bytesEach > 2 * sizeof(void *) - 1 && bytesEach < 18, qPrintable(QString::number(bytesEach)));
+    QVERIFY2(bytesEach > 2 * sizeof(void *) - 1 && bytesEach <= 25, qPrintable(QString::number(bytesEach)));
 }
-#endif
 
 QTEST_GUILESS_MAIN(TestNetStore)
 #include "tst_netstore.moc"
