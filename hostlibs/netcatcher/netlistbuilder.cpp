@@ -110,6 +110,17 @@ bool NetlistBuilder::isInterface(const QString &name) const
     });
 }
 
+/// The engine takes a design in which every module is instantiated by another one for an empty one. Empty when this is
+/// none.
+static QString circleError(const QStringList &modules, const QStringList &roots)
+{
+    if (modules.isEmpty() || !roots.isEmpty())
+        return {};
+    return QStringLiteral("ERROR: The design has no top module: each of %1 is instantiated by another one; end the "
+                          "recursion, or set the top module.")
+        .arg(modules.join(QStringLiteral(", ")));
+}
+
 bool NetlistBuilder::runEngine(const ProgressFunction &progress, ReadManifest &manifest)
 {
     DesignSources sources = m_sources;
@@ -124,6 +135,13 @@ bool NetlistBuilder::runEngine(const ProgressFunction &progress, ReadManifest &m
         return false;
     if (outcome == VerilatorEngine::Done)
         listModules(engine.declaredModules());
+    const QString circle = m_top.isEmpty() && m_read.tops.isEmpty()
+                               ? circleError(engine.declaredModules(), engine.declaredRoots())
+                               : QString();
+    if (!circle.isEmpty()) {
+        m_read.messages.append(circle);
+        return false;
+    }
     if (outcome != VerilatorEngine::Done || firstError(m_read.messages))
         manifest.giveUp();
     engine.noteFilesRead(m_design.files);

@@ -17,6 +17,8 @@ private slots:
     void chosenTopHasItsOwnParameters();
     void escapedTopThatIsNoModule_data();
     void escapedTopThatIsNoModule();
+    void circleWithoutATopIsNamed();
+    void primitivesAreNoCircle();
 };
 
 static probe::Result build(const QByteArray &source, const QString &top)
@@ -83,6 +85,24 @@ void TestNetlistTops::escapedTopThatIsNoModule()
     QCOMPARE(result.messages, QStringList());
     QCOMPARE(result.modules, QStringList());
     QVERIFY(!result.netlist);
+}
+
+void TestNetlistTops::circleWithoutATopIsNamed()
+{
+    const probe::Result result = build("module a; b u(); endmodule\nmodule b; a u(); endmodule\n", {});
+    const QString message = "ERROR: The design has no top module: each of a, b is instantiated by another one; end the "
+                            "recursion, or set the top module.";
+    QCOMPARE(result.messages, QStringList(message));
+    QCOMPARE(result.error, message);
+    QVERIFY(!result.isAnalysed && !result.netlist);
+}
+
+void TestNetlistTops::primitivesAreNoCircle()
+{
+    const probe::Result result =
+        build("primitive p(output y, input a); table 0 : 1; 1 : 0; endtable endprimitive\n", {});
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(result.error, QString("The design has no top module."));
 }
 
 QTEST_GUILESS_MAIN(TestNetlistTops)
