@@ -36,6 +36,9 @@ private slots:
     void missingIncludeTellsTheRemedy();
     void missingPackageTellsTheRemedy();
     void interfacePortOfTheTopTellsTheRemedy();
+    void surplusPinTellsTheCause();
+    void encryptedFileTellsTheRemedy_data();
+    void encryptedFileTellsTheRemedy();
     void duplicateModuleIsAWarning();
     void missingIncludeFolderIsAWarning();
     void vhdlIsAWarning();
@@ -250,6 +253,33 @@ void TestNetlistMessages::interfacePortOfTheTopTellsTheRemedy()
     QVERIFY2(result.errors().first().startsWith("ERROR: " + dir->filePath("design.sv") + ":2: "),
              qPrintable(result.errors().first()));
     QVERIFY(result.errors().first().endsWith("(choose a module without interface ports as the top module)"));
+}
+
+void TestNetlistMessages::surplusPinTellsTheCause()
+{
+    const probe::Result result =
+        build("module a(input x);\nleaf u(x, x);\nendmodule\nmodule leaf(input x); endmodule\n");
+    QCOMPARE(result.errors(), QStringList("ERROR: " + dir->filePath("design.sv") +
+                                          ":2: Pin not found: '__pinNumber2' (more pins are connected than the module "
+                                          "has ports)"));
+}
+
+void TestNetlistMessages::encryptedFileTellsTheRemedy_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("version") << QByteArray("`pragma protect version = 1");
+    QTest::newRow("older form") << QByteArray("`protected");
+}
+
+void TestNetlistMessages::encryptedFileTellsTheRemedy()
+{
+    QFETCH(QByteArray, line);
+    const probe::Result result = build(line + "\nmodule a(input x); endmodule\n");
+    QVERIFY(!result.netlist);
+    QVERIFY2(result.errors().value(0).startsWith("ERROR: " + dir->filePath("design.sv") + ':') &&
+                 result.errors().value(0).endsWith(" (the file is encrypted; disable it, and its modules become black "
+                                                   "boxes)"),
+             qPrintable(result.errors().value(0)));
 }
 
 void TestNetlistMessages::duplicateModuleIsAWarning()
