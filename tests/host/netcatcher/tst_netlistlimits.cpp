@@ -22,6 +22,11 @@ void TestNetlistLimits::isRefusedWithItsLine_data()
     QTest::addColumn<QByteArray>("body");
     QTest::newRow("instances in two dimensions") << QByteArray("inv u [1:0][2:0] (.i(d), .o(q));");
     QTest::newRow("defparam into an array") << QByteArray("inv u [5:0] (.i(d), .o(q)); defparam u[0].N = 2;");
+    QTest::newRow("defparam through instances") << QByteArray("inv u (.i(d[0]), .o(q[0])); defparam top.u.N = 2;");
+    QTest::newRow("sequence") << QByteArray("assert property (@(posedge d[0]) d[1] ##1 d[2]);");
+    QTest::newRow("covergroup") << QByteArray("covergroup cg; coverpoint d; endgroup");
+    QTest::newRow("let") << QByteArray("let f(x) = x;");
+    QTest::newRow("event with a condition") << QByteArray("logic r; always_ff @(posedge d[0] iff d[1]) r <= 0;");
     QTest::newRow("charge strength") << QByteArray("trireg (small) held; assign held = d[0];");
     QTest::newRow("pins of one name") << QByteArray("logic a [2]; one u1 (.in(a)); two u2 (.in(d));");
     QTest::newRow("dimensions behind an enumeration") << QByteArray("enum logic {A, B} [1:0] both;");
