@@ -204,7 +204,7 @@ void HdlScanner::identifier(const QByteArray &name)
         token = take();
     }
     bool isInstance = false;
-    while (token.kind == HdlToken::Identifier && instance(usage)) {
+    while (token.kind == HdlToken::Identifier && instance(token.text, usage)) {
         isInstance = true;
         token = take();
         if (!token.is(","))
@@ -224,10 +224,11 @@ void HdlScanner::identifier(const QByteArray &name)
 }
 
 /// Reads the ranges and connections of an instance, whose name was read.
-bool HdlScanner::instance(ModuleUsage &usage)
+bool HdlScanner::instance(const QByteArray &name, ModuleUsage &usage)
 {
     HdlToken token = take();
-    while (token.is("[")) {
+    int dimensions = 0;
+    for (; token.is("["); ++dimensions) {
         do
             token = take();
         while (token.kind != HdlToken::End && !token.is("]") && !token.is(";"));
@@ -235,10 +236,13 @@ bool HdlScanner::instance(ModuleUsage &usage)
             break;
         token = take();
     }
-    if (token.is("("))
-        return connections(usage.pins, usage.positionalPins);
-    putBack(token);
-    return false;
+    if (!token.is("(")) {
+        putBack(token);
+        return false;
+    }
+    if (dimensions > 1)
+        m_result.flattened.append(name);
+    return connections(usage.pins, usage.positionalPins);
 }
 
 /// Reads a list of connections after its opening parenthesis. False when the text is something else.

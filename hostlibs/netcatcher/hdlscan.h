@@ -34,6 +34,7 @@ struct HdlScan
     QSet<QByteArray> packages;            ///< declared
     QSet<QByteArray> usedPackages;        ///< before `::`
     QMap<QByteArray, ModuleUsage> usages; ///< by module name, of everything that looks like an instance
+    QVector<QByteArray> flattened;        ///< arrays of instances of more than one dimension
     QSet<QByteArray> recursive;           ///< modules that instantiate themselves
     QHash<QByteArray, QSet<QByteArray>>
         genvars;                ///< by module, also of modules without any; those of macros under no name
@@ -80,7 +81,7 @@ private:
     void genvarsOfMacro(const QByteArray &text);
     void defparams();
     void identifier(const QByteArray &name);
-    bool instance(ModuleUsage &usage);
+    bool instance(const QByteArray &name, ModuleUsage &usage);
     bool connections(QSet<QByteArray> &names, int &positional);
     HdlToken skipItem(HdlToken token);
 

@@ -160,6 +160,10 @@ void VerilatorEngine::scanSources()
         for (auto it = scans[i].usages.cbegin(); it != scans[i].usages.cend(); ++it)
             m_all.usages.insert(it.key(), it.value());
         m_blackBoxes.learn(scans[i]);
+        for (const QByteArray &name : scans[i].flattened)
+            m_messages.append(QStringLiteral("WARNING: %1: The array of instances %2 has more than one dimension, of "
+                                             "which only the first is listed")
+                                  .arg(m_folder.userPath(m_files[i]), QString::fromUtf8(name)));
     }
     m_blackBoxes.standInForEscaped(m_all.modules);
     m_order = packageOrder(scans);

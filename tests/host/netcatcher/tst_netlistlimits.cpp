@@ -15,6 +15,7 @@ class TestNetlistLimits : public QObject
 private slots:
     void isRefusedWithItsLine_data();
     void isRefusedWithItsLine();
+    void flattenedArrayOfInstancesIsTold();
 };
 
 void TestNetlistLimits::isRefusedWithItsLine_data()
@@ -43,6 +44,19 @@ void TestNetlistLimits::isRefusedWithItsLine()
     QVERIFY(!result.netlist);
     QVERIFY(!result.errors().isEmpty());
     QVERIFY2(result.errors().first().startsWith("ERROR: " + path + ":3: "), qPrintable(result.errors().first()));
+}
+
+/// Where every pin fits every instance, the engine reads the first dimension and says nothing.
+void TestNetlistLimits::flattenedArrayOfInstancesIsTold()
+{
+    const support::TempDir dir;
+    const QString path = dir.write("design.sv", "module top (input d); leaf u [1:0][2:0] (.d(d)); leaf v [1:0] (d);\n"
+                                                "endmodule\nmodule leaf (input d); endmodule\n");
+    const probe::Result result = probe::build(probe::sources({path}));
+    QCOMPARE(result.messages, QStringList("WARNING: " + path +
+                                          ": The array of instances u has more than one dimension, "
+                                          "of which only the first is listed"));
+    QVERIFY(result.netlist);
 }
 
 QTEST_GUILESS_MAIN(TestNetlistLimits)
