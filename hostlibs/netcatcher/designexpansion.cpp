@@ -53,7 +53,7 @@ ModuleTable Expander::run()
     ModuleTable table;
     indexOf(options.top);
     for (std::size_t i = 0; i < reached.size(); ++i)
-        table.modules.push_back(expandModule(design.modules[reached[i]], i == 0));
+        table.modules.push_back(expandModule(design.modules[reached[i]], i == 0 && !options.isPart));
     return table;
 }
 

@@ -16,6 +16,7 @@ namespace NETCATCHER {
 /// What the expansion has to know beside the design itself.
 struct ExpansionOptions
 {
+    bool isPart = false;                               ///< see DesignSources
     QByteArray top;                                    ///< key of the module where the hierarchy begins
     std::function<bool(const RawModule &)> isBlackBox; ///< whether a module is a stand-in for a missing source
     QHash<QByteArray, QSet<QByteArray>> genvars;       ///< names that the sources declare as genvar, by module

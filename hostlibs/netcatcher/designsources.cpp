@@ -38,14 +38,15 @@ DesignSources DesignSources::fromSourceInfo(const QMap<QString, QVariant> &info)
         if (path.isEmpty() || seen.contains(identity))
             continue;
         seen.insert(identity);
-        sources.files.append({path, languageOf(path, record.value(TE::SourceKey::Type).toInt())});
+        sources.files.append({path, languageOf(path, record.value(TE::SourceKey::Type).toInt()),
+                              record.value(TE::SourceKey::Library).toString()});
     }
     return sources;
 }
 
 bool operator==(const SourceFile &a, const SourceFile &b)
 {
-    return a.path == b.path && a.language == b.language;
+    return a.path == b.path && a.language == b.language && a.library == b.library;
 }
 
 bool operator==(const DesignSources &a, const DesignSources &b)

@@ -18,6 +18,7 @@ struct SourceFile
 
     QString path; ///< as the user gave it
     Language language = Verilog;
+    QString library; ///< of VHDL files; empty for the default one
 };
 
 /// A design as the task engine describes it, in typed form.
@@ -28,6 +29,7 @@ struct DesignSources
     QStringList includePaths;
     QStringList defines; ///< NAME or NAME=VALUE
     QString standard;    ///< of the Verilog files; empty for the engine's own choice
+    bool isPart = false; ///< the top is inside of a design of another language, so that its ports are no pins
 
     /// Takes the keys of TE::SourceKey; files without a type are judged by their suffix.
     static DesignSources fromSourceInfo(const QMap<QString, QVariant> &info);

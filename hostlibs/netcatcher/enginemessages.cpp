@@ -56,19 +56,19 @@ namespace {
 struct Ending
 {
     int signal;
-    const char *text; ///< %1 is the number of the signal
+    const char *text; ///< %1 is the number of the signal, %2 the engine's language
 };
 
 } // namespace
 
 /// Signals that tell more than that the engine failed.
 static const Ending endings[] = {
-    {SIGKILL, "The Verilog engine was killed (signal %1), as the system does when memory runs out; close other "
+    {SIGKILL, "The %2 engine was killed (signal %1), as the system does when memory runs out; close other "
               "programs, or set the top module to a part of the design."},
-    {SIGTERM, "The Verilog engine was ended from outside (signal %1); read the design again."},
-    {SIGINT, "The Verilog engine was ended from outside (signal %1); read the design again."},
-    {SIGHUP, "The Verilog engine was ended from outside (signal %1); read the design again."},
-    {0, "The Verilog engine crashed. Set the top module, or disable files one by one to find what it cannot read; a "
+    {SIGTERM, "The %2 engine was ended from outside (signal %1); read the design again."},
+    {SIGINT, "The %2 engine was ended from outside (signal %1); read the design again."},
+    {SIGHUP, "The %2 engine was ended from outside (signal %1); read the design again."},
+    {0, "The %2 engine crashed. Set the top module, or disable files one by one to find what it cannot read; a "
         "module that instantiates itself without end is a usual cause."},
 };
 
@@ -159,32 +159,33 @@ static QString firstWords(const QByteArray &output)
     return lines.isEmpty() ? QString() : lines.constFirst().simplified().left(maxLength);
 }
 
-static QString endingText(int signal)
+static QString endingText(int signal, const QString &language)
 {
     const auto found = std::find_if(std::begin(endings), std::end(endings), [signal](const Ending &ending) {
         return ending.signal == signal || ending.signal == 0;
     });
-    return QString(QLatin1String(found->text)).replace(QLatin1String("%1"), QString::number(signal));
+    QString text = QLatin1String(found->text);
+    return text.replace(QLatin1String("%1"), QString::number(signal)).replace(QLatin1String("%2"), language);
 }
 
-QString failureMessage(const EngineResult &result, const EngineLimits &limits, bool hasErrors)
+QString failureMessage(const EngineResult &result, const EngineLimits &limits, bool hasErrors, const QString &language)
 {
     const QLatin1String advice(smallerTop);
     if (result.outcome == EngineResult::TimedOut)
-        return QStringLiteral("The Verilog engine did not finish within %1 seconds and was ended; %2.")
-            .arg(QString::number(limits.milliseconds / 1000), advice);
+        return QStringLiteral("The %3 engine did not finish within %1 seconds and was ended; %2.")
+            .arg(QString::number(limits.milliseconds / 1000), advice, language);
     if (result.messages.contains("bad_alloc") || result.messages.contains("Out of memory"))
-        return QStringLiteral("The Verilog engine ran out of memory; %1.").arg(advice);
+        return QStringLiteral("The %2 engine ran out of memory; %1.").arg(advice, language);
     if (result.outcome == EngineResult::Crashed && result.exitCode == SIGXFSZ)
-        return QStringLiteral("The result of the Verilog engine exceeds the limit of %1 bytes; %2.")
-            .arg(QString::number(limits.fileBytes), advice);
+        return QStringLiteral("The result of the %3 engine exceeds the limit of %1 bytes; %2.")
+            .arg(QString::number(limits.fileBytes), advice, language);
     if (result.outcome == EngineResult::Crashed)
-        return endingText(result.exitCode);
+        return endingText(result.exitCode, language);
     if (hasErrors)
         return {};
     const QString words = firstWords(result.messages);
-    return words.isEmpty() ? QStringLiteral("The Verilog engine failed without saying why.")
-                           : QStringLiteral("The Verilog engine failed: %1").arg(words);
+    return words.isEmpty() ? QStringLiteral("The %1 engine failed without saying why.").arg(language)
+                           : QStringLiteral("The %2 engine failed: %1").arg(words, language);
 }
 
 } // namespace NETCATCHER

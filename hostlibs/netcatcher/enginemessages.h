@@ -34,7 +34,8 @@ QVector<EngineMessage> parseEngineMessages(const QByteArray &output);
 /// known, what to do about it.
 QString userMessage(const EngineMessage &message, const PrivateFolder &folder);
 
-/// What users are told about an engine that did not succeed, without "ERROR: "; empty when its own messages suffice.
-QString failureMessage(const EngineResult &result, const EngineLimits &limits, bool hasErrors);
+/// What users are told about the engine of a language that did not succeed, without "ERROR: "; empty when its own
+/// messages suffice.
+QString failureMessage(const EngineResult &result, const EngineLimits &limits, bool hasErrors, const QString &language);
 
 } // namespace NETCATCHER

@@ -111,8 +111,9 @@ static QProcessEnvironment smallEnvironment(const QString &folder)
     return environment;
 }
 
-/// Waits for the end; false when the time is over.
-static bool waitForEnd(QProcess &process, qint64 milliseconds, QByteArray &messages, const std::function<void()> &idle)
+/// Waits for the end; answers why it was not waited for any longer, or that the program finished.
+static EngineResult::Outcome waitForEnd(QProcess &process, qint64 milliseconds, QByteArray &messages,
+                                        const std::function<void()> &idle, const std::function<bool()> &isEnough)
 {
     QElapsedTimer timer;
     timer.start();
@@ -122,15 +123,18 @@ static bool waitForEnd(QProcess &process, qint64 milliseconds, QByteArray &messa
         const QByteArray read = process.readAll();
         messages += read.left(maxMessageBytes - messages.size());
         idle();
+        if (isEnough && isEnough())
+            return EngineResult::Enough;
         if (timer.hasExpired(milliseconds))
-            return false;
+            return EngineResult::TimedOut;
     }
     messages += process.readAll().left(maxMessageBytes - messages.size());
-    return true;
+    return EngineResult::Finished;
 }
 
 EngineResult runEngine(const QString &program, const QStringList &arguments, const QString &folder,
-                       const EngineLimits &limits, const std::function<void()> &idle)
+                       const EngineLimits &limits, const std::function<void()> &idle,
+                       const std::function<bool()> &isEnough)
 {
     EngineLimits effective = limits;
     if (effective.memoryBytes == 0)
@@ -146,10 +150,11 @@ EngineResult runEngine(const QString &program, const QStringList &arguments, con
     result.isConfined = process.isConfined();
     if (!process.waitForStarted())
         return result;
-    if (!waitForEnd(process, limits.milliseconds, result.messages, idle)) {
+    result.outcome = waitForEnd(process, limits.milliseconds, result.messages, idle, isEnough);
+    if (result.outcome != EngineResult::Finished) {
         process.kill();
         process.waitForFinished();
-        result.outcome = EngineResult::TimedOut;
+        result.messages += process.readAll().left(maxMessageBytes - result.messages.size());
         return result;
     }
     result.exitCode = process.exitCode();
@@ -157,8 +162,6 @@ EngineResult runEngine(const QString &program, const QStringList &arguments, con
         result.outcome = EngineResult::Crashed;
     else if (result.isConfined && result.exitCode == unconfinedStatus)
         result.outcome = EngineResult::Unconfined;
-    else
-        result.outcome = EngineResult::Finished;
     return result;
 }
 

@@ -29,6 +29,7 @@ struct EngineResult
         Unconfined, ///< the kernel offers Landlock, but did not let the program be confined; it was not run
         Crashed,    ///< ended by a signal
         TimedOut,
+        Enough, ///< ended by `isEnough`
     };
 
     Outcome outcome = NotStarted;
@@ -39,8 +40,9 @@ struct EngineResult
 
 /// Runs an engine in `folder`: without a shell, in a small environment, within limits, never longer than this process
 /// lives, and, where the kernel offers Landlock, unable to write anywhere else or to use a network. `idle` is called
-/// about twenty times a second while it works.
+/// about twenty times a second while it works; so is `isEnough`, which ends it by answering true.
 EngineResult runEngine(const QString &program, const QStringList &arguments, const QString &folder,
-                       const EngineLimits &limits, const std::function<void()> &idle);
+                       const EngineLimits &limits, const std::function<void()> &idle,
+                       const std::function<bool()> &isEnough = {});
 
 } // namespace NETCATCHER

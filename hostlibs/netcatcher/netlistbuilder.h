@@ -6,7 +6,6 @@
 #include "buildprogress.h"
 #include "designsources.h"
 #include "engineprocess.h"
-#include "rawdesign.h"
 #include "readresult.h"
 
 #include <netcatcher/rtlnetlist.h>
@@ -54,20 +53,10 @@ public:
 private:
     bool findOrRead(const ProgressFunction &report);
     bool readSources(const ProgressFunction &progress, ReadManifest &manifest);
-    bool readResult(const QString &xmlPath, const ProgressFunction &progress);
-    bool runEngine(const ProgressFunction &progress, ReadManifest &manifest);
-    bool isInterface(const QString &name) const;
-    void listModules(const QStringList &declared);
-    bool canBeTop(const RawModule &module) const;
-    QByteArray topKey() const;
-    void expandTop(const ProgressFunction &progress);
 
     const DesignSources m_sources;
-    QString m_top; ///< that the engine is given
     EngineLimits m_limits;
     ReadResult m_read;
-    RawDesign m_design;
-    QHash<QByteArray, QSet<QByteArray>> m_genvars;
     bool m_isAnalysed = false;
     bool m_isCached = true;
     bool m_isUnconfined = false; ///< whether the engine ran without Landlock

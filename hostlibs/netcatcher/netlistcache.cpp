@@ -45,18 +45,26 @@ static void putPath(const QString &path, ByteWriter &out)
     out.putText(QFileInfo(path).absoluteFilePath());
 }
 
-QByteArray NetlistCache::keyOf(const DesignSources &sources, const QString &engine, const QByteArray &reader)
+static void putProgram(const QString &path, ByteWriter &out)
 {
-    const QFileInfo program(QFileInfo(engine).canonicalFilePath());
-    ByteWriter out;
-    out.putBytes(reader);
+    const QFileInfo program(QFileInfo(path).canonicalFilePath());
     out.putText(program.filePath());
     out.putText(QString::number(program.size()));
     out.putText(QString::number(program.lastModified().toMSecsSinceEpoch()));
+}
+
+QByteArray NetlistCache::keyOf(const DesignSources &sources, const QStringList &engines, const QByteArray &reader)
+{
+    ByteWriter out;
+    out.putBytes(reader);
+    out.putNumber(quint32(engines.size()));
+    for (const QString &engine : engines)
+        putProgram(engine, out);
     out.putNumber(quint32(sources.files.size()));
     for (const SourceFile &file : sources.files) {
         putPath(file.path, out);
         out.putByte(file.language);
+        out.putText(file.library);
     }
     out.putText(sources.top);
     out.putNumber(quint32(sources.includePaths.size()));

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -24,9 +25,9 @@ class NetlistCache
 public:
     /// The user's, which the workbench and the command line share; empty when there is none.
     static QString defaultFolder();
-    /// The name of the entry for a design read by `engine`, a program's path, and by `reader`, a version of this
+    /// The name of the entry for a design read by `engines`, paths of programs, and by `reader`, a version of this
     /// library.
-    static QByteArray keyOf(const DesignSources &sources, const QString &engine,
+    static QByteArray keyOf(const DesignSources &sources, const QStringList &engines,
                             const QByteArray &reader = readerVersion());
 
     static constexpr qint64 defaultBytes = qint64(512) << 20;

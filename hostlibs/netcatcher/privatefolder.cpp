@@ -53,11 +53,13 @@ QString PrivateFolder::folderFor(const QString &userFolder)
 
 QString PrivateFolder::addSource(const SourceFile &file)
 {
-    const QString suffix = file.language == SourceFile::SystemVerilog ? QStringLiteral("sv") : QStringLiteral("v");
+    static const QHash<int, QString> suffixes{{SourceFile::Verilog, QStringLiteral("v")},
+                                              {SourceFile::SystemVerilog, QStringLiteral("sv")},
+                                              {SourceFile::Vhdl, QStringLiteral("vhd")}};
     const QString plainName = QStringLiteral("%1/vaksrc%2.%3")
                                   .arg(folderFor(QFileInfo(file.path).absolutePath()))
                                   .arg(m_sourceCount++)
-                                  .arg(suffix);
+                                  .arg(suffixes.value(file.language));
     if (!link(file.path, plainName))
         return {};
     m_userPaths.insert(plainName, file.path);
@@ -159,6 +161,11 @@ QString PrivateFolder::userPath(const QString &plainName) const
     const auto found = m_userPaths.constFind(plainName);
     if (found != m_userPaths.constEnd())
         return *found;
+    // Messages from a running design name files without their folders; sources are numbered through.
+    for (auto it = m_userPaths.cbegin(); it != m_userPaths.cend(); ++it) {
+        if (it.key().endsWith(QLatin1Char('/') + plainName))
+            return *it;
+    }
     // The engine cuts the name of an include at its first blank.
     const auto longer = m_userPaths.lowerBound(plainName + QLatin1Char(' '));
     if (longer != m_userPaths.constEnd() && longer.key().startsWith(plainName + QLatin1Char(' ')))

@@ -30,6 +30,8 @@ public:
     /// Links a source file and answers its plain name, relative to the folder; empty when that fails. Files of one
     /// folder of the user's get into one folder here, so that they find each other's includes.
     QString addSource(const SourceFile &file);
+    /// Links a file that the engine looks for under `plainName`, which must lead nowhere else than into this folder.
+    bool addData(const QString &path, const QString &plainName) { return link(path, plainName); }
     /// Gives a source another suffix and answers its new plain name; its old one when that fails.
     QString changeSuffix(const QString &plainName, const QString &suffix);
     /// Takes a folder to look for includes in, behind those added before.

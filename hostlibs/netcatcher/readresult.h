@@ -18,6 +18,9 @@ struct ReadResult
     QStringList modules;
     QStringList messages;             ///< lines that begin with "ERROR" or "WARNING"
     std::optional<ModuleTable> table; ///< of the only top; none when there are several
+
+    /// The first line that begins with "ERROR"; null when there is none.
+    const QString *firstError() const;
 };
 
 } // namespace NETCATCHER

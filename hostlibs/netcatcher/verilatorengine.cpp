@@ -5,6 +5,7 @@
 
 #include "packageorder.h"
 #include "readmanifest.h"
+#include "sourcecheck.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -67,14 +68,6 @@ bool VerilatorEngine::hasErrors() const
                        [](const QString &line) { return line.startsWith(QLatin1String("ERROR")); });
 }
 
-/// The engine takes such text for an empty file.
-static bool isWideText(const QString &path)
-{
-    QFile file(path);
-    const QByteArray mark = file.open(QIODevice::ReadOnly) ? file.read(2) : QByteArray();
-    return mark == "\xff\xfe" || mark == "\xfe\xff";
-}
-
 bool VerilatorEngine::linkSources()
 {
     if (!m_folder.isValid()) {
@@ -82,20 +75,9 @@ bool VerilatorEngine::linkSources()
         return false;
     }
     for (const SourceFile &file : m_sources.files) {
-        if (file.language != SourceFile::Vhdl)
-            m_manifest.look(file.path);
-        const QFileInfo info(file.path);
-        if (file.language == SourceFile::Vhdl)
-            m_messages.append(
-                QStringLiteral("WARNING: %1: VHDL is not read; its entities are black boxes").arg(file.path));
-        else if (!info.exists())
-            addError(QStringLiteral("%1: There is no such file.").arg(file.path));
-        else if (!info.isFile())
-            addError(QStringLiteral("%1: This is no regular file.").arg(file.path));
-        else if (!info.isReadable())
-            addError(QStringLiteral("%1: The file cannot be read.").arg(file.path));
-        else if (isWideText(file.path))
-            addError(QStringLiteral("%1: The file is UTF-16 text; save it as UTF-8.").arg(file.path));
+        m_manifest.look(file.path);
+        if (const QString problem = problemWithSource(file.path); !problem.isEmpty())
+            addError(file.path + QLatin1String(": ") + problem);
         else if (const QString plainName = m_folder.addSource(file); !plainName.isEmpty())
             m_files.append(plainName);
         else
@@ -296,7 +278,7 @@ VerilatorEngine::Outcome VerilatorEngine::judge(const EngineResult &result, cons
         return Done;
     if (errors == 0 && special != Failed && result.outcome == EngineResult::Finished)
         return special;
-    const QString failure = failureMessage(result, m_limits, errors > 0);
+    const QString failure = failureMessage(result, m_limits, errors > 0, QStringLiteral("Verilog"));
     if (!failure.isEmpty())
         addError(failure);
     return Failed;

@@ -30,6 +30,7 @@ private slots:
     void memoryIsLimited();
     void fileSizeIsLimited();
     void idleIsCalledMeanwhile();
+    void enoughEndsIt();
     void sandboxKeepsWritingInside();
     void sandboxLetsReadOutside();
 
@@ -126,6 +127,20 @@ void TestEngineProcess::idleIsCalledMeanwhile()
     int calls = 0;
     NETCATCHER::runEngine("/bin/sh", {"-c", "sleep 0.5"}, folder, {}, [&calls] { ++calls; });
     QVERIFY(calls >= 3);
+}
+
+void TestEngineProcess::enoughEndsIt()
+{
+    const QString result = folder + "/result";
+    const EngineResult ended = NETCATCHER::runEngine(
+        "/bin/sh", {"-c", "echo said; echo x > result; while :; do :; done"}, folder, {}, [] {},
+        [&result] { return QFile::exists(result); });
+    QCOMPARE(ended.outcome, EngineResult::Enough);
+    QCOMPARE(ended.messages, QByteArray("said\n"));
+    QCOMPARE(NETCATCHER::runEngine(
+                 "/bin/true", {}, folder, {}, [] {}, [] { return false; })
+                 .outcome,
+             EngineResult::Finished);
 }
 
 void TestEngineProcess::sandboxKeepsWritingInside()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The RtlVakIns authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "hostilenames.h"
 #include "netlistprobe.h"
 
 #include "support/engineswitch.h"
@@ -21,34 +22,33 @@ private slots:
     void init();
     void cleanup();
 
-    void sourceFile_data() { names(); }
+    void sourceFile_data() { probe::hostileNames(); }
     void sourceFile();
-    void errorInSourceFile_data() { names(); }
+    void errorInSourceFile_data() { probe::hostileNames(); }
     void errorInSourceFile();
-    void folderOfSources_data() { names(); }
+    void folderOfSources_data() { probe::hostileNames(); }
     void folderOfSources();
-    void includeFolder_data() { names(); }
+    void includeFolder_data() { probe::hostileNames(); }
     void includeFolder();
-    void define_data() { names(); }
+    void define_data() { probe::hostileNames(); }
     void define();
-    void topModule_data() { names(); }
+    void topModule_data() { probe::hostileNames(); }
     void topModule();
-    void includedFile_data() { names(); }
+    void includedFile_data() { probe::hostileNames(); }
     void includedFile();
-    void definedText_data() { names(); }
+    void definedText_data() { probe::hostileNames(); }
     void definedText();
     void optionAsTop_data();
     void optionAsTop();
     void optionInDefine_data() { optionAsTop_data(); }
     void optionInDefine();
-    void temporaryFolder_data() { names(); }
+    void temporaryFolder_data() { probe::hostileNames(); }
     void temporaryFolder();
     void canaryCouldBeThere_data();
     void canaryCouldBeThere();
     void canaryOfTheEngineCouldBeThere();
 
 private:
-    static void names();
     void watchEngine(const QByteArray &before) const;
     probe::Result build(const NETCATCHER::DesignSources &sources);
     bool isUntouched() const;
@@ -59,40 +59,6 @@ private:
     QString workingFolder;
     QByteArray temporary;
 };
-
-constexpr int maxNameBytes = 255;
-
-/// The longest names have no room for a suffix.
-static QString withSuffix(const QString &name, const QString &suffix)
-{
-    return name.left(maxNameBytes - suffix.size()) + suffix;
-}
-
-void TestHostileNames::names()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("blank") << "a b";
-    QTest::newRow("leading blank") << " a";
-    QTest::newRow("double quote") << "a\"b";
-    QTest::newRow("single quote") << "a'b";
-    QTest::newRow("command substitution") << "$(touch canary)";
-    QTest::newRow("backtick") << "`touch canary`";
-    QTest::newRow("semicolon") << "a;touch canary";
-    QTest::newRow("ampersand") << "a&touch canary";
-    QTest::newRow("pipe") << "a|touch canary";
-    QTest::newRow("newline") << "a\ntouch canary";
-    QTest::newRow("tabulator") << "a\tb";
-    QTest::newRow("leading minus") << "--version";
-    QTest::newRow("leading plus") << "+define+X";
-    QTest::newRow("percent") << "%Error: a%s%n";
-    QTest::newRow("star") << "*";
-    QTest::newRow("question mark and bracket") << "?[a";
-    QTest::newRow("backslash") << "a\\nb";
-    QTest::newRow("non-ASCII") << QStringLiteral("gr\u00f6\u00dfe\u4f60");
-    QTest::newRow("long") << QString(maxNameBytes, QLatin1Char('n'));
-    QTest::newRow("option") << "-f list";
-    QTest::newRow("braces") << "${HOME}{a,b}";
-}
 
 void TestHostileNames::init()
 {
@@ -139,7 +105,7 @@ static const char design[] = "module a(input x); wire y = x; endmodule\n";
 void TestHostileNames::sourceFile()
 {
     QFETCH(QString, name);
-    const QString path = dir->write("rtl/" + withSuffix(name, ".v"), design);
+    const QString path = dir->write("rtl/" + probe::withSuffix(name, ".v"), design);
     const probe::Result result = build(probe::sources({path}));
     QVERIFY2(result.netlist, qPrintable(result.messages.join('\n')));
     QCOMPARE(probe::rows(*result.netlist), QStringList({"x", "y"}));
@@ -149,7 +115,7 @@ void TestHostileNames::sourceFile()
 void TestHostileNames::errorInSourceFile()
 {
     QFETCH(QString, name);
-    const QString path = dir->write("rtl/" + withSuffix(name, ".v"), "\nmodule a(input x)\nendmodule\n");
+    const QString path = dir->write("rtl/" + probe::withSuffix(name, ".v"), "\nmodule a(input x)\nendmodule\n");
     const probe::Result result = build(probe::sources({path}));
     QVERIFY(!result.errors().isEmpty());
     QVERIFY2(result.errors().first().startsWith("ERROR: " + path + ":3: syntax error"),

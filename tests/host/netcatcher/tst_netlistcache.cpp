@@ -112,11 +112,11 @@ void TestNetlistCache::keyTellsDescriptionsApart()
     c.includePaths = QStringList{"x", "y"};
     QSet<QByteArray> keys;
     for (const DesignSources &sources : {DesignSources(), a, b, c})
-        keys.insert(NetlistCache::keyOf(sources, "/bin/sh"));
-    keys.insert(NetlistCache::keyOf(a, "/bin/ls"));
-    keys.insert(NetlistCache::keyOf(a, "/bin/sh", "another version"));
+        keys.insert(NetlistCache::keyOf(sources, {"/bin/sh"}));
+    keys.insert(NetlistCache::keyOf(a, {"/bin/ls"}));
+    keys.insert(NetlistCache::keyOf(a, {"/bin/sh"}, "another version"));
     QCOMPARE(keys.size(), 6);
-    QVERIFY(keys.contains(NetlistCache::keyOf(a, "/bin/sh")));
+    QVERIFY(keys.contains(NetlistCache::keyOf(a, {"/bin/sh"})));
 }
 
 void TestNetlistCache::readerVersionFollowsTheSources()

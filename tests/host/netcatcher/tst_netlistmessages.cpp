@@ -41,7 +41,6 @@ private slots:
     void encryptedFileTellsTheRemedy();
     void duplicateModuleIsAWarning();
     void missingIncludeFolderIsAWarning();
-    void vhdlIsAWarning();
     void wrongPinOfARealModuleIsAnError();
     void assignmentToAnInputIsTolerated();
 
@@ -300,16 +299,6 @@ void TestNetlistMessages::missingIncludeFolderIsAWarning()
     QVERIFY(result.netlist);
     QCOMPARE(result.messages,
              QStringList("WARNING: " + dir->filePath("nowhere") + ": There is no such include folder."));
-}
-
-void TestNetlistMessages::vhdlIsAWarning()
-{
-    const QString vhdl = dir->write("box.vhd", "entity box is end;\n");
-    const probe::Result result =
-        probe::build(probe::sources({vhdl, dir->write("a.v", "module a(input x); box u(.x(x)); endmodule\n")}));
-    QVERIFY(result.netlist);
-    QCOMPARE(result.netlist->topHierarchy()->children().first()->module(), QString("box"));
-    QCOMPARE(result.messages, QStringList("WARNING: " + vhdl + ": VHDL is not read; its entities are black boxes"));
 }
 
 void TestNetlistMessages::wrongPinOfARealModuleIsAnError()

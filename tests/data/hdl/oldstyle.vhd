@@ -1,0 +1,31 @@
+-- SPDX-FileCopyrightText: 2026 The RtlVakIns authors
+-- SPDX-License-Identifier: Apache-2.0
+
+-- VHDL-93: words that later standards reserve are names here, and the packages are those of their time.
+
+LIBRARY IEEE;
+USE IEEE.STD_LOGIC_1164.ALL;
+USE IEEE.STD_LOGIC_ARITH.ALL;
+USE IEEE.STD_LOGIC_UNSIGNED.ALL;
+
+ENTITY OLDSTYLE IS
+  PORT (CLK     : IN  STD_LOGIC;
+        DEFAULT : IN  STD_LOGIC_VECTOR(3 DOWNTO 0);
+        Q       : OUT STD_LOGIC_VECTOR(3 DOWNTO 0));
+END OLDSTYLE;
+
+ARCHITECTURE BEHAVIOUR OF OLDSTYLE IS
+  SIGNAL CONTEXT   : STD_LOGIC_VECTOR(3 DOWNTO 0) := (OTHERS => '0');
+  SIGNAL Property  : STD_LOGIC;
+  SHARED VARIABLE SUM : INTEGER := 0;
+BEGIN
+  PROCESS (CLK)
+  BEGIN
+    IF CLK'EVENT AND CLK = '1' THEN
+      CONTEXT <= CONTEXT + DEFAULT;
+      PROPERTY <= CLK;
+      SUM := SUM + 1;
+    END IF;
+  END PROCESS;
+  Q <= CONTEXT;
+END BEHAVIOUR;
