@@ -5,7 +5,7 @@
 // which makes the index, and the size of the index. Then looking nets up by their paths. Prints ratios of one run.
 
 #include "rules/netsearch.h"
-#include "hostlibs/netcatcher/netstore.h"
+#include "hostlibs/netcatcher/store/netstore.h"
 
 #include <QElapsedTimer>
 #include <QRegExp>

@@ -3,11 +3,11 @@
 
 #include "mixedreading.h"
 
-#include "readmanifest.h"
-#include "sourcecheck.h"
-#include "verilogreading.h"
-#include "vhdllexer.h"
-#include "vhdlreading.h"
+#include "hostlibs/netcatcher/cache/readmanifest.h"
+#include "hostlibs/netcatcher/engine/sourcecheck.h"
+#include "hostlibs/netcatcher/verilog/verilogreading.h"
+#include "hostlibs/netcatcher/vhdl/vhdllexer.h"
+#include "hostlibs/netcatcher/vhdl/vhdlreading.h"
 
 #include <QFile>
 

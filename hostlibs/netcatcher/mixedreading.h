@@ -5,10 +5,11 @@
 
 #include "buildprogress.h"
 #include "designsources.h"
-#include "engineprocess.h"
-#include "hdlscan.h"
 #include "readresult.h"
-#include "vhdlscan.h"
+
+#include "hostlibs/netcatcher/engine/engineprocess.h"
+#include "hostlibs/netcatcher/verilog/hdlscan.h"
+#include "hostlibs/netcatcher/vhdl/vhdlscan.h"
 
 namespace NETCATCHER {
 

@@ -3,14 +3,15 @@
 
 #include "netlistbuilder.h"
 
-#include "ghdlengine.h"
 #include "mixedreading.h"
-#include "netlistcache.h"
-#include "netstore.h"
-#include "readmanifest.h"
-#include "verilatorengine.h"
-#include "verilogreading.h"
-#include "vhdlreading.h"
+
+#include "hostlibs/netcatcher/cache/netlistcache.h"
+#include "hostlibs/netcatcher/cache/readmanifest.h"
+#include "hostlibs/netcatcher/store/netstore.h"
+#include "hostlibs/netcatcher/verilog/verilatorengine.h"
+#include "hostlibs/netcatcher/verilog/verilogreading.h"
+#include "hostlibs/netcatcher/vhdl/ghdlengine.h"
+#include "hostlibs/netcatcher/vhdl/vhdlreading.h"
 
 #include <algorithm>
 

@@ -5,8 +5,9 @@
 
 #include "buildprogress.h"
 #include "designsources.h"
-#include "engineprocess.h"
 #include "readresult.h"
+
+#include "hostlibs/netcatcher/engine/engineprocess.h"
 
 #include <netcatcher/rtlnetlist.h>
 

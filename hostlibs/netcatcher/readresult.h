@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "moduletable.h"
+#include "hostlibs/netcatcher/store/moduletable.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The RtlVakIns authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "netstore.h"
+#include "hostlibs/netcatcher/store/netstore.h"
 
 namespace NETCATCHER {
 

@@ -4,7 +4,7 @@
 // libFuzzer: whatever the bytes are, the reader answers with a design that keeps its promises or with an error and
 // nothing.
 
-#include "hostlibs/netcatcher/ghwreader.h"
+#include "hostlibs/netcatcher/vhdl/ghwreader.h"
 #include "tests/host/netcatcher/ghwprobe.h"
 
 #include <cstdint>

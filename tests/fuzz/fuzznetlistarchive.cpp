@@ -3,9 +3,9 @@
 
 // Takes any bytes for the body of a cache entry, behind a checksum that is right, and asks what is read for everything.
 
-#include "hostlibs/netcatcher/netlistarchive.h"
-#include "hostlibs/netcatcher/netstore.h"
-#include "hostlibs/netcatcher/readmanifest.h"
+#include "hostlibs/netcatcher/cache/netlistarchive.h"
+#include "hostlibs/netcatcher/cache/readmanifest.h"
+#include "hostlibs/netcatcher/store/netstore.h"
 
 #include <QCryptographicHash>
 
