@@ -14,6 +14,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 #include <QTextStream>
 
 #include <memory>
@@ -121,7 +122,8 @@ static void printCounts(const QString &top, const NETCATCHER::NetCounts &counts,
             << ",\"buses\":" << counts.buses << ",\"bits\":" << counts.bits << ",\"unusable\":" << counts.unusable
             << "}\n";
     else
-        out << RTLVAK::countsLine(top, counts) << "; " << counts.unusable << " unusable\n";
+        out << RTLVAK::countsLine(top, counts) << "; " << QLocale(QLocale::English).toString(counts.unusable)
+            << " unusable\n";
     out.flush();
 }
 

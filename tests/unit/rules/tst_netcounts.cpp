@@ -22,7 +22,7 @@ void TestNetCounts::lineForPeople_data()
     QTest::addColumn<quint64>("bits");
     QTest::addColumn<QString>("line");
     QTest::newRow("many") << "soc" << quint64(300) << quint64(112) << quint64(3120)
-                          << "soc: 412 nets to choose from (300 single, 112 buses), 3120 bits";
+                          << "soc: 412 nets to choose from (300 single, 112 buses), 3,120 bits";
     QTest::newRow("one of each") << "a" << quint64(1) << quint64(1) << quint64(5)
                                  << "a: 2 nets to choose from (1 single, 1 bus), 5 bits";
     QTest::newRow("one") << "a" << quint64(1) << quint64(0) << quint64(1)
