@@ -49,6 +49,15 @@ QString BlackBoxes::wrapperName()
     return QStringLiteral("vak_module_around_the_top");
 }
 
+QString BlackBoxes::withoutPlaceholders(QString text)
+{
+    static const QRegularExpression placeholder(QStringLiteral("\\bvak(pin|param)(\\d{1,4})\\b"));
+    for (auto match = placeholder.match(text); match.hasMatch(); match = placeholder.match(text))
+        text.replace(match.capturedStart(), match.capturedLength(),
+                     QStringLiteral("%1 %2").arg(match.captured(1), QString::number(match.captured(2).toInt() + 1)));
+    return text;
+}
+
 void BlackBoxes::wrapTop(const QByteArray &top)
 {
     m_wrapped = top;
@@ -57,11 +66,7 @@ void BlackBoxes::wrapTop(const QByteArray &top)
 void BlackBoxes::learn(const HdlScan &scan)
 {
     for (auto it = scan.usages.cbegin(); it != scan.usages.cend(); ++it) {
-        ModuleUsage &usage = m_usages[it.key()];
-        usage.pins.unite(it->pins);
-        usage.parameters.unite(it->parameters);
-        usage.positionalPins = qMax(usage.positionalPins, it->positionalPins);
-        usage.positionalParameters = qMax(usage.positionalParameters, it->positionalParameters);
+        m_usages[it.key()].unite(*it);
     }
     m_common.parameters.unite(scan.defparams);
 }
@@ -98,10 +103,12 @@ bool BlackBoxes::learnPin(const QString &name)
         m_common.positionalPins = position;
         return true;
     }
-    const int before = m_common.pins.size();
-    if (position == 0)
-        m_common.pins.insert(name.toUtf8());
-    return m_common.pins.size() > before;
+    if (position > 0)
+        return false;
+    QSet<QByteArray> &pins = m_common.pins.contains(name.toUtf8()) ? m_wildcardPins : m_common.pins;
+    const int before = pins.size();
+    pins.insert(name.toUtf8());
+    return pins.size() > before;
 }
 
 bool BlackBoxes::learnParameter(const QString &name)
@@ -132,11 +139,20 @@ bool BlackBoxes::learnArray(const QString &pin)
     return m_arrays.size() > before;
 }
 
+/// `.*` connects the pins without names of the same module, or of another one, too.
+bool BlackBoxes::learnLoosePin(const QString &name)
+{
+    const int before = m_loosePins.size();
+    m_loosePins.insert(name.toUtf8());
+    return m_loosePins.size() > before;
+}
+
 bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
 {
     static const QRegularExpression missing(
         QStringLiteral("^(?:Cannot find file containing module|Can't resolve module reference): '(.*)'$"));
     static const QRegularExpression pin(QStringLiteral("^Pin not found: '(.*)'$"));
+    static const QRegularExpression loose(QStringLiteral("^Can't find definition of variable: '(vakpin\\d+)'$"));
     static const QRegularExpression parameter(QStringLiteral("^Parameter pin not found: '(.*)'$"));
     static const QRegularExpression width(
         QStringLiteral("^Input port connection '(.*)' as part of a module instance "
@@ -152,6 +168,9 @@ bool BlackBoxes::learn(const QVector<EngineMessage> &messages)
         match = pin.match(message.text);
         if (match.hasMatch())
             learned = learnPin(match.captured(1)) || learned;
+        match = loose.match(message.text);
+        if (match.hasMatch())
+            learned = learnLoosePin(match.captured(1)) || learned;
         match = parameter.match(message.text);
         if (match.hasMatch())
             learned = learnParameter(match.captured(1)) || learned;
@@ -177,11 +196,17 @@ static QList<QByteArray> declared(const QSet<QByteArray> &names, int positional,
     return all + sorted;
 }
 
+QList<QByteArray> BlackBoxes::pins(const ModuleUsage &usage) const
+{
+    return declared(usage.pins + (usage.hasWildcard ? m_wildcardPins : m_common.pins),
+                    qMax(usage.positionalPins, m_common.positionalPins), "vakpin");
+}
+
 QByteArray BlackBoxes::pinDeclaration(const QByteArray &name) const
 {
     const int width = m_widths.value(name);
     // An array of one scalar takes arrays of any type and size.
-    return "input wire " + (width > 0 ? '[' + QByteArray::number(width - 1) + ":0] " : QByteArray()) + written(name) +
+    return "wire " + (width > 0 ? '[' + QByteArray::number(width - 1) + ":0] " : QByteArray()) + written(name) +
            (m_arrays.contains(name) ? " [0:0]" : "");
 }
 
@@ -192,12 +217,11 @@ QByteArray BlackBoxes::standIn(const QByteArray &module, const ModuleUsage &usag
                  qMax(usage.positionalParameters, m_common.positionalParameters), "vakparam");
     for (QByteArray &parameter : parameters)
         parameter = "parameter " + written(parameter) + " = 0";
-    QList<QByteArray> pins =
-        declared(usage.pins + m_common.pins, qMax(usage.positionalPins, m_common.positionalPins), "vakpin");
-    for (QByteArray &pin : pins)
-        pin = pinDeclaration(pin);
+    QList<QByteArray> ports = pins(usage);
+    for (QByteArray &port : ports)
+        port = "input " + pinDeclaration(port);
     return "module " + written(module) + (parameters.isEmpty() ? QByteArray() : " #(" + parameters.join(", ") + ')') +
-           " (" + pins.join(", ") + ");\nendmodule\n";
+           " (" + ports.join(", ") + ");\nendmodule\n";
 }
 
 static bool writeFile(const QString &path, const QByteArray &text)
@@ -213,6 +237,8 @@ QStringList BlackBoxes::files() const
         files.append(folderName() + QStringLiteral("/escaped.v"));
     if (!m_wrapped.isEmpty())
         files.append(folderName() + QStringLiteral("/wrapper.v"));
+    if (!m_loosePins.isEmpty())
+        files.append(folderName() + QStringLiteral("/loosepins.sv"));
     return files;
 }
 
@@ -231,7 +257,11 @@ bool BlackBoxes::write(const QString &folder) const
         escaped += standIn(name, m_usages.value(name));
     const QByteArray wrapper =
         "module " + wrapperName().toLatin1() + ";\n  \\" + m_wrapped + "  wrapped ();\nendmodule\n";
+    QByteArray loosePins; // outside of modules, where every module finds them
+    for (const QByteArray &name : m_loosePins)
+        loosePins += pinDeclaration(name) + ";\n";
     return writeFile(place.filePath(QStringLiteral("escaped.v")), escaped) &&
+           writeFile(place.filePath(QStringLiteral("loosepins.sv")), loosePins) &&
            writeFile(place.filePath(QStringLiteral("wrapper.v")), wrapper);
 }
 

@@ -30,6 +30,8 @@ public:
 
     /// The name of the stand-in that wrapTop() asks for.
     static QString wrapperName();
+    /// What the engine says with the names of pins and parameters that have none instead of placeholders.
+    static QString withoutPlaceholders(QString text);
 
     /// Asks for a module around `top`. Without it the engine loses every module of the design when the top has an
     /// escaped name, and the inner instances of a top that instantiates itself.
@@ -53,11 +55,17 @@ private:
     bool learnParameter(const QString &name);
     bool learnWidth(const QString &pin, int width);
     bool learnArray(const QString &pin);
+    bool learnLoosePin(const QString &name);
+    QList<QByteArray> pins(const ModuleUsage &usage) const;
     QByteArray pinDeclaration(const QByteArray &name) const;
     QByteArray standIn(const QByteArray &module, const ModuleUsage &usage) const;
 
     QMap<QByteArray, ModuleUsage> m_usages;
     ModuleUsage m_common; ///< pins and parameters that the engine missed somewhere: every stand-in gets them
+    /// Named pins that the engine missed though `m_common` has them. Stand-ins with `.*` get only these, since each pin
+    /// needs something of its name beside the instance.
+    QSet<QByteArray> m_wildcardPins;
+    QSet<QByteArray> m_loosePins; ///< placeholders that `.*` connects to something
     QMap<QByteArray, int> m_widths;
     QSet<QByteArray> m_arrays;  ///< pins that unpacked arrays are connected to
     QSet<QByteArray> m_escaped; ///< modules whose names are no plain identifiers

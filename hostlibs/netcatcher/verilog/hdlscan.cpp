@@ -10,6 +10,15 @@ constexpr std::size_t maxIncludeDepth = 64;
 constexpr int maxIncludes = 4096;
 constexpr qint64 maxIncludedBytes = 64 << 20;
 
+void ModuleUsage::unite(const ModuleUsage &other)
+{
+    pins.unite(other.pins);
+    parameters.unite(other.parameters);
+    positionalPins = qMax(positionalPins, other.positionalPins);
+    positionalParameters = qMax(positionalParameters, other.positionalParameters);
+    hasWildcard = hasWildcard || other.hasWildcard;
+}
+
 HdlScanner::HdlScanner(const QStringList &defines, OpenInclude openInclude)
     : m_macros{"SYNTHESIS"}
     , m_openInclude(std::move(openInclude))
@@ -196,10 +205,11 @@ void HdlScanner::defparams()
 void HdlScanner::identifier(const QByteArray &name)
 {
     ModuleUsage usage;
+    bool isAnyParameter = false; // the language has no `.*` for parameters
     HdlToken token = take();
     if (token.is("#")) {
         token = take();
-        if (token.is("(") && !connections(usage.parameters, usage.positionalParameters))
+        if (token.is("(") && !connections(usage.parameters, usage.positionalParameters, isAnyParameter))
             return;
         token = take();
     }
@@ -216,11 +226,7 @@ void HdlScanner::identifier(const QByteArray &name)
         return;
     if (!m_result.modules.isEmpty() && m_result.modules.constLast() == name)
         m_result.recursive.insert(name);
-    ModuleUsage &all = m_result.usages[name];
-    all.pins.unite(usage.pins);
-    all.parameters.unite(usage.parameters);
-    all.positionalPins = qMax(all.positionalPins, usage.positionalPins);
-    all.positionalParameters = qMax(all.positionalParameters, usage.positionalParameters);
+    m_result.usages[name].unite(usage);
 }
 
 /// Reads the ranges and connections of an instance, whose name was read.
@@ -242,17 +248,19 @@ bool HdlScanner::instance(const QByteArray &name, ModuleUsage &usage)
     }
     if (dimensions > 1)
         m_result.flattened.append(name);
-    return connections(usage.pins, usage.positionalPins);
+    return connections(usage.pins, usage.positionalPins, usage.hasWildcard);
 }
 
 /// Reads a list of connections after its opening parenthesis. False when the text is something else.
-bool HdlScanner::connections(QSet<QByteArray> &names, int &positional)
+bool HdlScanner::connections(QSet<QByteArray> &names, int &positional, bool &hasWildcard)
 {
     int position = 0;
     HdlToken token = take();
     while (!token.is(")")) {
-        if (token.is(".")) {
+        const bool isNamed = token.is(".");
+        if (isNamed) {
             token = take();
+            hasWildcard = hasWildcard || token.is("*");
             if (token.kind == HdlToken::Identifier || token.kind == HdlToken::Keyword)
                 names.insert(token.text);
             token = take();
@@ -260,10 +268,14 @@ bool HdlScanner::connections(QSet<QByteArray> &names, int &positional)
             ++position;
         }
         token = skipItem(token);
-        if (token.is(","))
-            token = take();
-        else if (!token.is(")"))
-            return false;
+        if (!token.is(",")) {
+            if (!token.is(")"))
+                return false;
+            break;
+        }
+        token = take();
+        if (token.is(")") && !isNamed)
+            ++position; // `(a, )` leaves the second one out
     }
     positional = qMax(positional, position);
     return true;

@@ -25,6 +25,9 @@ struct ModuleUsage
     QSet<QByteArray> parameters;
     int positionalPins = 0;
     int positionalParameters = 0;
+    bool hasWildcard = false; ///< `.*`: whatever has the name of a pin is connected to it
+
+    void unite(const ModuleUsage &other);
 };
 
 /// What a scan of sources found. It is a rough reading of the text that the engine's own judgement completes.
@@ -82,7 +85,7 @@ private:
     void defparams();
     void identifier(const QByteArray &name);
     bool instance(const QByteArray &name, ModuleUsage &usage);
-    bool connections(QSet<QByteArray> &names, int &positional);
+    bool connections(QSet<QByteArray> &names, int &positional, bool &hasWildcard);
     HdlToken skipItem(HdlToken token);
 
     QSet<QByteArray> m_macros;

@@ -20,6 +20,8 @@ private slots:
     void findsModulesAndPackages();
     void commentsStringsAndAttributesAreSkipped();
     void namedAndPositionalConnections();
+    void connectionsLeftOutCount();
+    void wildcardConnections();
     void severalInstancesInOneStatement();
     void declarationsAreNoInstances();
     void conditionals_data();
@@ -74,6 +76,28 @@ void TestHdlScan::namedAndPositionalConnections()
     QCOMPARE(sorted(box.parameters), QList<QByteArray>({"A", "B"}));
     QCOMPARE(box.positionalPins, 3);
     QCOMPARE(box.positionalParameters, 2);
+}
+
+void TestHdlScan::connectionsLeftOutCount()
+{
+    const HdlScan found = scan("module m; none u1 (); one u2 (a); two u3 (a, ); three u4 (, a, );\n"
+                               "named u5 (.a(1), );\nendmodule");
+    QCOMPARE(found.usages.value("none").positionalPins, 0);
+    QCOMPARE(found.usages.value("one").positionalPins, 1);
+    QCOMPARE(found.usages.value("two").positionalPins, 2);
+    QCOMPARE(found.usages.value("three").positionalPins, 3);
+    QCOMPARE(found.usages.value("named").positionalPins, 0);
+}
+
+void TestHdlScan::wildcardConnections()
+{
+    const HdlScan found = scan("module m; all u1 (.*); some u2 (.a(1), .*); none u3 (.a(b.c), .d(e * f), .\\* (g));\n"
+                               "mixed u4 (a, b); mixed u5 (.*); mixed u6 ();\nendmodule");
+    QVERIFY(found.usages.value("all").hasWildcard);
+    QVERIFY(found.usages.value("some").hasWildcard);
+    QVERIFY(!found.usages.value("none").hasWildcard);
+    QVERIFY(found.usages.value("mixed").hasWildcard);
+    QCOMPARE(sorted(found.usages.value("some").pins), QList<QByteArray>({"a"}));
 }
 
 void TestHdlScan::severalInstancesInOneStatement()

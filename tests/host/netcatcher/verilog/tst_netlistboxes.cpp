@@ -16,6 +16,7 @@ private slots:
     void pinsTakeWhatIsConnected_data();
     void pinsTakeWhatIsConnected();
     void interfaceAtAPinIsRefused();
+    void pinsWithoutNamesAreToldByTheirNumbers();
 };
 
 static probe::Result build(const QByteArray &body)
@@ -31,6 +32,17 @@ static probe::Result build(const QByteArray &body)
 void TestNetlistBoxes::pinsTakeWhatIsConnected_data()
 {
     QTest::addColumn<QByteArray>("body");
+    QTest::newRow("wildcard beside a connection left out") << QByteArray("wire w;\nother v (d, w, );\nvendor u (.*);");
+    QTest::newRow("wildcard beside pins of a macro")
+        << QByteArray("`define PINS clk, d\nother v (`PINS);\nvendor u (.*);");
+    QTest::newRow("wildcard beside an array in a macro")
+        << QByteArray("logic [7:0] a [2];\n`define PINS a, d\nother v (`PINS);\nvendor u (.*);");
+    QTest::newRow("wildcard beside named pins of a macro")
+        << QByteArray("`define PINS .one(clk), .two(d)\nother v (`PINS);\nvendor u (.*);");
+    QTest::newRow("wildcard and pins of a macro")
+        << QByteArray("`define PINS .one(clk), .two(d)\nvendor u (.*, `PINS);");
+    QTest::newRow("wildcard and pins without names") << QByteArray("vendor v (clk, d);\nvendor u (.*);");
+    QTest::newRow("wildcard in a macro") << QByteArray("`define U vendor u (.*);\nvendor v (clk, d);\n`U");
     QTest::newRow("array") << QByteArray("logic [7:0] a [0:3];\nvendor u (.clk(clk), .in(a));");
     QTest::newRow("two arrays") << QByteArray("logic a [4], b [0:1][2:0];\nvendor u (.in(a), .out(b));");
     QTest::newRow("array without a pin's name") << QByteArray("logic [7:0] a [2];\nvendor u (clk, a, d);");
@@ -61,6 +73,15 @@ void TestNetlistBoxes::interfaceAtAPinIsRefused()
     QVERIFY2(result.errors().first().endsWith("(only modules with source can have interface ports; add the file that "
                                               "declares the module)"),
              qPrintable(result.errors().join('\n')));
+}
+
+void TestNetlistBoxes::pinsWithoutNamesAreToldByTheirNumbers()
+{
+    const probe::Result result = build("bus_if bus ();\nvendor u (clk, bus);");
+    QVERIFY(!result.netlist);
+    const QString line = result.errors().first();
+    QVERIFY2(line.contains(" connection 'pin 2', mismatch between "), qPrintable(line));
+    QVERIFY2(!line.contains("vakpin"), qPrintable(line));
 }
 
 QTEST_GUILESS_MAIN(TestNetlistBoxes)
