@@ -16,6 +16,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <csignal>
 
 namespace NETCATCHER {
 
@@ -262,6 +263,21 @@ static VerilatorEngine::Outcome outcomeIn(const EngineMessage &message)
     return VerilatorEngine::Failed;
 }
 
+/// The engine's stack runs over where a module instantiates itself without end. Empty when it failed otherwise.
+static QString recursionError(const EngineResult &result, const QSet<QByteArray> &recursive)
+{
+    if (result.outcome != EngineResult::Crashed || result.exitCode != SIGSEGV || recursive.isEmpty())
+        return {};
+    QStringList names;
+    for (const QByteArray &name : recursive)
+        names.append(QString::fromUtf8(name));
+    names.sort();
+    return QStringLiteral("The Verilog engine crashed, as it does when a module instantiates itself without end. "
+                          "Modules that instantiate themselves: %1. Make that depend on a condition, or set another "
+                          "top module.")
+        .arg(names.join(QStringLiteral(", ")));
+}
+
 /// Decides what the last run means, and says so in the messages.
 VerilatorEngine::Outcome VerilatorEngine::judge(const EngineResult &result, const QVector<EngineMessage> &messages)
 {
@@ -280,7 +296,9 @@ VerilatorEngine::Outcome VerilatorEngine::judge(const EngineResult &result, cons
         return Done;
     if (errors == 0 && special != Failed && result.outcome == EngineResult::Finished)
         return special;
-    const QString failure = failureMessage(result, m_limits, errors > 0, QStringLiteral("Verilog"));
+    const QString recursion = recursionError(result, m_all.recursive);
+    const QString failure =
+        !recursion.isEmpty() ? recursion : failureMessage(result, m_limits, errors > 0, QStringLiteral("Verilog"));
     if (!failure.isEmpty())
         addError(failure);
     return Failed;

@@ -19,6 +19,8 @@ private slots:
     void escapedTopThatIsNoModule();
     void circleWithoutATopIsNamed();
     void primitivesAreNoCircle();
+    void moduleInsideItselfIsNamed_data();
+    void moduleInsideItselfIsNamed();
 };
 
 static probe::Result build(const QByteArray &source, const QString &top)
@@ -103,6 +105,39 @@ void TestNetlistTops::primitivesAreNoCircle()
         build("primitive p(output y, input a); table 0 : 1; 1 : 0; endtable endprimitive\n", {});
     QCOMPARE(result.messages, QStringList());
     QCOMPARE(result.error, QString("The design has no top module."));
+}
+
+void TestNetlistTops::moduleInsideItselfIsNamed_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QString>("top");
+    QTest::addColumn<QString>("names");
+    const QByteArray leaf = "module leaf (input x); leaf u (.x(x)); endmodule\n";
+    const QByteArray user = "module user (input x); leaf u (.x(x)); endmodule\n";
+    const QByteArray other = "module \\a+b (input x); generate if (0) begin : g \\a+b u (.x(x)); end endgenerate\n"
+                             "endmodule\n";
+    QTest::newRow("only module") << leaf << QString() << "leaf";
+    QTest::newRow("below the top") << user + leaf << QString() << "leaf";
+    QTest::newRow("below a top that is set") << user + leaf << "user"
+                                             << "leaf";
+    QTest::newRow("top") << leaf + user << "leaf"
+                         << "leaf";
+    QTest::newRow("one of several") << user + leaf + other << "user"
+                                    << "a+b, leaf";
+}
+
+void TestNetlistTops::moduleInsideItselfIsNamed()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(QString, top);
+    QFETCH(QString, names);
+    const probe::Result result = build(source, top);
+    const QString message = "ERROR: The Verilog engine crashed, as it does when a module instantiates itself without "
+                            "end. Modules that instantiate themselves: %1. Make that depend on a condition, or set "
+                            "another top module.";
+    QCOMPARE(result.messages, QStringList(message.arg(names)));
+    QCOMPARE(result.error, result.messages.first());
+    QVERIFY(!result.isAnalysed && !result.netlist);
 }
 
 QTEST_GUILESS_MAIN(TestNetlistTops)
