@@ -187,13 +187,16 @@ void Expander::describe(const GhwScope &scope, int node, Description &descriptio
     int next = 0;
     for (int child : scope.children) {
         const GhwScope &inner = design.scopes[std::size_t(child)];
+        // Processes are not in the tree, where a look in vain costs as much as there are nodes.
+        if (inner.kind != GhwScope::Instance && !hasLocalNames(inner))
+            continue;
         const QByteArray name = inner.index.isNull() ? inner.name : inner.name + '(' + inner.index + ')';
         const int innerNode = tree.childNamed(node, name, &next);
         if (inner.kind == GhwScope::Instance) {
             const VhdlInstance *statement = scan.instance(place, vhdlKey(inner.name));
             description.instances.push_back(addInstance(inner, innerNode, statement, depth + 1));
             description.add(inner.name, description.instances.back());
-        } else if (hasLocalNames(inner)) {
+        } else {
             VhdlPlace innerPlace = place;
             innerPlace.scopes.append(vhdlKey(inner.name));
             description.add(inner.name, -1);
