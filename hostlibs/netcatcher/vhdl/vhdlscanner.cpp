@@ -248,6 +248,8 @@ bool VhdlScanner::unit(const QByteArray &word)
         m_place = VhdlPlace();
         m_place.entity = key(m_pos + 3);
         m_pos += 4;
+    } else if (word == "package" && m_place.architecture.isEmpty()) {
+        m_place = VhdlPlace(); // what it declares is not the entity's that a bare `end;` closed before
     } else {
         return false;
     }

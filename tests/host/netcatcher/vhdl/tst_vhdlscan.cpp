@@ -169,6 +169,8 @@ void TestVhdlScan::openGenerics()
                                 "entity B is generic (One : integer := f(1, 2)); end;\n");
     QCOMPARE(found.openGenerics("a"), QList<QByteArray>({"One", "Four", "Five"}));
     QCOMPARE(found.openGenerics("b"), QList<QByteArray>());
+    const VhdlScan behind = scan("entity A is end;\npackage P is generic (N : natural); end;\n");
+    QCOMPARE(behind.openGenerics("a"), QList<QByteArray>());
 }
 
 void TestVhdlScan::emptyTexts()
