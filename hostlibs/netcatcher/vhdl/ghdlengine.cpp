@@ -242,17 +242,31 @@ EngineResult GhdlEngine::runOnce(const QStringList &arguments, bool endsWithHier
     return runEngine(program(), arguments, m_folder.path(), left, idle, isEnough);
 }
 
-/// Only the syntax is checked, and nothing executed.
-GhdlEngine::Outcome GhdlEngine::import()
+/// Only the syntax is checked, and nothing executed. False when there are errors.
+bool GhdlEngine::importBy(const QString &standard)
 {
+    m_messages.clear();
     const QStringList all = libraries();
     for (const QString &library : all) {
-        const QStringList arguments = QStringList(QStringLiteral("-i")) + languageOptions(QLatin1String(standards[0]));
+        const QStringList arguments = QStringList(QStringLiteral("-i")) + languageOptions(standard);
         const EngineResult result = runOnce(arguments + QStringList(workOption(library)) + filesOf(library), false);
         if (result.outcome != EngineResult::Finished || result.exitCode != 0)
             judge(result);
     }
-    return hasErrors() ? Failed : m_scan.entities().isEmpty() ? NoEntities : NoOnlyTop;
+    return !hasErrors();
+}
+
+GhdlEngine::Outcome GhdlEngine::import()
+{
+    QStringList errors;
+    for (const char *standard : standards) {
+        if (importBy(QLatin1String(standard)))
+            return m_scan.entities().isEmpty() ? NoEntities : NoOnlyTop;
+        if (errors.isEmpty())
+            errors = m_messages;
+    }
+    m_messages = errors;
+    return Failed;
 }
 
 /// Whether the result holds the whole hierarchy; values may follow it. The engine may be writing it meanwhile, so it is
@@ -321,7 +335,7 @@ GhdlEngine::Outcome GhdlEngine::judge(const EngineResult &result)
 {
     const bool isDone = isHierarchyWritten();
     int errors = 0;
-    const QVector<EngineMessage> messages = parseGhdlMessages(result.messages);
+    const QVector<EngineMessage> messages = parseGhdlMessages(result.messages, isDone);
     for (const EngineMessage &message : messages) {
         errors += message.isError ? 1 : 0;
         // What goes wrong behind the hierarchy is the simulation, which is nobody's concern here.
@@ -334,7 +348,7 @@ GhdlEngine::Outcome GhdlEngine::judge(const EngineResult &result)
     }
     const QString failure = ghdlFailureMessage(result, m_limits, errors > 0);
     if (!failure.isEmpty())
-        addError(failure);
+        addError(m_folder.withUserPaths(failure));
     return Failed;
 }
 

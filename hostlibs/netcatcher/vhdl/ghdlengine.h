@@ -59,6 +59,7 @@ private:
     void chooseTops();
     bool canRun();
     bool canBeElaborated(const QByteArray &top);
+    bool importBy(const QString &standard);
     Outcome import();
     Outcome elaborate(const QByteArray &top);
     EngineResult runOnce(const QStringList &arguments, bool endsWithHierarchy);

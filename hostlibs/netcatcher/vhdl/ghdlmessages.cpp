@@ -29,8 +29,12 @@ static const Advice advices[] = {
     {"cannot be at the top of a design", "give it bounds or a default, or set another top module"},
     {"has no architecture", "add the file with its architecture to the project"},
     {"cannot open file", "a design can read files beside its sources while it is read, and write none"},
+    {"source encoding must be latin-1", "save it without the mark of UTF-8 at its beginning"},
     {"obsoleted by", "a file is named in two libraries, or declares what another one declares"},
 };
+
+static const char untoldTypes[] = "The VHDL engine cannot tell the types of all signals; types that an instance of a "
+                                  "package declares are a usual cause.";
 
 /// Remarks that only repeat what other lines say.
 static const char *const remarks[] = {
@@ -113,12 +117,13 @@ static QByteArray beforeHierarchy(const QByteArray &output)
     return mark < 0 ? output : output.left(output.lastIndexOf('\n', mark) + 1);
 }
 
-QVector<EngineMessage> parseGhdlMessages(const QByteArray &output)
+QVector<EngineMessage> parseGhdlMessages(const QByteArray &output, bool isElaborated)
 {
     static const QRegularExpression located(QStringLiteral("^(vakdir[^\\s:]+):(\\d+):\\d+:(.*)$"));
     static const QRegularExpression general(QStringLiteral("^\\S*ghdl[\\w.-]*:(?:error:)? ?(?!warning:)(.*)$"));
     QVector<EngineMessage> messages;
-    const QStringList lines = QString::fromUtf8(beforeHierarchy(output)).split(QLatin1Char('\n'));
+    const QStringList lines =
+        QString::fromUtf8(isElaborated ? beforeHierarchy(output) : output).split(QLatin1Char('\n'));
     for (const QString &line : lines) {
         if (addCaller(line, messages))
             continue;
@@ -142,12 +147,20 @@ QVector<EngineMessage> parseGhdlMessages(const QByteArray &output)
     return messages;
 }
 
+/// The engine stumbles over some types while it writes its result; a mistake of the design's has a place.
+static bool isAboutTypes(const EngineMessage &message)
+{
+    return message.file.isEmpty() && message.text.startsWith(QLatin1String("NULL access dereferenced"));
+}
+
 QString ghdlUserMessage(const EngineMessage &message, const PrivateFolder &folder)
 {
     QString result = message.isError ? QStringLiteral("ERROR: ") : QStringLiteral("WARNING: ");
     if (!message.file.isEmpty())
         result +=
             folder.userPath(message.file) + QLatin1Char(':') + QString::number(message.line) + QLatin1String(": ");
+    if (isAboutTypes(message))
+        return result + QLatin1String(untoldTypes);
     result += folder.withUserPaths(message.text);
     for (const Advice &each : advices) {
         if (message.isError && message.text.contains(QLatin1String(each.text)))
@@ -166,6 +179,9 @@ QString ghdlFailureMessage(const EngineResult &result, const EngineLimits &limit
     if (result.messages.contains("STORAGE_ERROR") || result.messages.contains("virtual memory exhausted"))
         return QStringLiteral("The VHDL engine ran out of memory; set the top module to a part of the design. An "
                               "entity that instantiates itself without end is a usual cause.");
+    // Where it reads the types of signals.
+    if (result.messages.contains("rtis_utils.adb:"))
+        return QLatin1String(untoldTypes);
     if (result.messages.contains("GHDL Bug occurred"))
         return QStringLiteral("The VHDL engine failed here; set the top module to a part of the design, or disable "
                               "files one by one to find what it cannot read.");

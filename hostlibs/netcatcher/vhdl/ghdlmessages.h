@@ -7,8 +7,9 @@
 
 namespace NETCATCHER {
 
-/// The messages in the VHDL engine's output, without its quotations of source lines, notes, and the hierarchy.
-QVector<EngineMessage> parseGhdlMessages(const QByteArray &output);
+/// The messages in the VHDL engine's output, without its quotations of source lines, notes, and the hierarchy. When
+/// that was elaborated with success, what follows it comes from the simulation and is left out.
+QVector<EngineMessage> parseGhdlMessages(const QByteArray &output, bool isElaborated);
 
 /// The message as users see it: "ERROR: FILE:LINE: text" or "WARNING: ...", with their own paths and, where it is
 /// known, what to do about it.

@@ -146,6 +146,12 @@ void TestVhdlFaults::deathAtAnyStageIsAnError_data()
                                 << "ERROR: The VHDL engine failed: out of luck";
     QTest::newRow("own failure") << QByteArray("echo '*** GHDL Bug occurred ***'; exit 2")
                                  << "ERROR: The VHDL engine failed here; ";
+    QTest::newRow("failure at types")
+        << QByteArray("printf 'a [entity]\n'; echo 'ghdl-mcode:error: NULL access dereferenced'; exit 1")
+        << "ERROR: The VHDL engine cannot tell the types of all signals; ";
+    QTest::newRow("last words about a file")
+        << QByteArray("echo $(find vakdir0 -name '*.vhd'):1:1:warning: odd; exit 1")
+        << "ERROR: The VHDL engine failed: /";
     QTest::newRow("nonsense") << QByteArray("printf 'GHDLwave\\n\\000EOH\\000' > vak.ghw")
                               << "ERROR: The result of the VHDL engine cannot be read: ";
 }
@@ -158,6 +164,7 @@ void TestVhdlFaults::deathAtAnyStageIsAnError()
     const probe::Result result = build(plain);
     QCOMPARE(result.errors().size(), 1);
     QVERIFY2(result.errors().first().startsWith(message), qPrintable(result.errors().first()));
+    QVERIFY2(!result.errors().first().contains("vakdir"), qPrintable(result.errors().first()));
     QVERIFY(!result.isAnalysed && !result.netlist);
 }
 

@@ -35,6 +35,7 @@ private slots:
     void errorsNameFileAndLine();
     void syntaxErrorIsToldWithoutATop();
     void olderStandardIsTried();
+    void olderStandardIsTriedWithoutATop();
     void duplicateEntityIsAWarning();
     void missingFileIsNamed();
     void libraryMustHaveAName();
@@ -42,6 +43,7 @@ private slots:
     void genericsOfTypesWithDefaultsAreNotOpen();
     void assertionsAreNoErrors();
     void simulationIsNotRun();
+    void typesOfPackageInstancesAreNotRead();
     void caseGenerateIsAWarning();
     void hugeBusIsListedButUnusable();
     void contentsOfMemoriesAreReadBesideTheSources();
@@ -191,6 +193,9 @@ void TestVhdlMessages::errorsNameFileAndLine_data()
         << head + "begin\nu : entity work.nothing;\nend;\n"
         << ":4: unit \"nothing\" not found in library \"work\" (add the file that declares it to the project, in that "
            "library)";
+    QTest::newRow("mark of UTF-8") << "\xef\xbb\xbf" + head + "begin end;\n"
+                                   << ":1: source encoding must be latin-1 (UTF-8 BOM detected) (save it without the "
+                                      "mark of UTF-8 at its beginning)";
     QTest::newRow("unbound port")
         << QByteArray("entity A is port (\nX : in bit_vector); end;\narchitecture R of A is begin end;\n")
         << ":2: entity \"a\" cannot be at the top of a design (port \"x\" is unconstrained and has no default value) "
@@ -233,6 +238,16 @@ void TestVhdlMessages::olderStandardIsTried()
     QVERIFY(result.netlist);
     QCOMPARE(probe::rows(*result.netlist), QStringList("Default"));
     const probe::Result wrong = build(QByteArray(source).replace("%1", "oops"));
+    QVERIFY(wrong.errors().first().startsWith("ERROR: " + dir->filePath("design.vhd") + ":1: "));
+}
+
+void TestVhdlMessages::olderStandardIsTriedWithoutATop()
+{
+    const QByteArray older = "entity C is port (Default : in bit); end;\narchitecture R of C is begin %1\nend;\n";
+    const probe::Result result = build(QByteArray(older).replace("%1", "") + twoRoots);
+    QCOMPARE(result.messages, QStringList());
+    QCOMPARE(result.tops, QStringList({"C", "A", "B"}));
+    const probe::Result wrong = build(QByteArray(older).replace("%1", "oops") + twoRoots);
     QVERIFY(wrong.errors().first().startsWith("ERROR: " + dir->filePath("design.vhd") + ":1: "));
 }
 
@@ -309,6 +324,19 @@ void TestVhdlMessages::simulationIsNotRun()
     QCOMPARE(result.messages, QStringList());
     QVERIFY(result.netlist);
     QCOMPARE(probe::rows(*result.netlist), QStringList("X"));
+}
+
+void TestVhdlMessages::typesOfPackageInstancesAreNotRead()
+{
+    // An unbound component gives a warning, which must not be taken for the reason.
+    const probe::Result result =
+        build("package P is generic (N : natural); subtype V is bit_vector(N - 1 downto 0); end;\n"
+              "package P5 is new work.P generic map (N => 5);\n"
+              "entity A is port (X : in bit); end;\n"
+              "architecture R of A is component C is port (X : in bit); end component; signal S : work.P5.V;\n"
+              "begin U : C port map (X); S(0) <= X; end;\n");
+    QCOMPARE(result.errors(), QStringList("ERROR: The VHDL engine cannot tell the types of all signals; types that an "
+                                          "instance of a package declares are a usual cause."));
 }
 
 void TestVhdlMessages::caseGenerateIsAWarning()
