@@ -90,20 +90,18 @@ const MixedReading::Unit *MixedReading::unitFor(const QString &name, bool isVhdl
 QVector<MixedReading::Unit> MixedReading::roots() const
 {
     const QSet<QByteArray> byVhdl = m_vhdlScan.instantiated();
-    const QVector<QByteArray> vhdlRoots = m_vhdlScan.roots();
-    const auto isUsedByVerilog = [this](const Unit &unit) {
-        if (!unit.isVhdl)
-            return m_verilogUses.contains(unit.name.toUtf8());
-        const QList<QByteArray> names = m_verilogUses.keys();
-        return std::any_of(names.cbegin(), names.cend(),
-                           [&unit](const QByteArray &name) { return isSame(QString::fromUtf8(name), unit.name); });
+    QSet<QString> byVerilog; // of VHDL, which does not tell upper from lower case
+    for (auto it = m_verilogUses.cbegin(); it != m_verilogUses.cend(); ++it)
+        byVerilog.insert(QString::fromUtf8(it.key()).toCaseFolded());
+    const QVector<QByteArray> rootNames = m_vhdlScan.roots();
+    QSet<QString> vhdlRoots;
+    for (const QByteArray &name : rootNames)
+        vhdlRoots.insert(QString::fromUtf8(vhdlDisplayName(name)));
+    const auto isUsedByVerilog = [&](const Unit &unit) {
+        return unit.isVhdl ? byVerilog.contains(unit.name.toCaseFolded()) : m_verilogUses.contains(unit.name.toUtf8());
     };
     const auto isUsedByVhdl = [&](const Unit &unit) {
-        if (!unit.isVhdl)
-            return byVhdl.contains(vhdlKey(unit.name.toUtf8()));
-        return std::none_of(vhdlRoots.cbegin(), vhdlRoots.cend(), [&unit](const QByteArray &name) {
-            return QString::fromUtf8(vhdlDisplayName(name)) == unit.name;
-        });
+        return unit.isVhdl ? !vhdlRoots.contains(unit.name) : byVhdl.contains(vhdlKey(unit.name.toUtf8()));
     };
     QVector<Unit> result;
     for (const Unit &unit : m_units) {
