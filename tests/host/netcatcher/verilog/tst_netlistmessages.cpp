@@ -34,7 +34,9 @@ private slots:
     void syntaxErrorNamesFileAndLine();
     void errorInIncludeNamesTheInclude();
     void missingIncludeTellsTheRemedy();
+    void missingPackageTellsTheRemedy_data();
     void missingPackageTellsTheRemedy();
+    void failureInsideOfTheEngineTellsTheRemedy();
     void interfacePortOfTheTopTellsTheRemedy();
     void surplusPinTellsTheCause();
     void encryptedFileTellsTheRemedy_data();
@@ -232,16 +234,45 @@ void TestNetlistMessages::missingIncludeTellsTheRemedy()
                                           "the include paths)"));
 }
 
+void TestNetlistMessages::missingPackageTellsTheRemedy_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QString>("message");
+    const QString remedy = " (add the file that declares the package to the project)";
+    const QString typeRemedy = " (add the file that declares the package to the project, or correct the type's name)";
+    QTest::newRow("import") << QByteArray("module a import p::*; (input x); endmodule\n")
+                            << "Importing from missing package 'p'" + remedy;
+    QTest::newRow("constant") << QByteArray("module a(input x); wire [p::W-1:0] y; endmodule\n")
+                              << "Internal Error: Bad package link" + remedy;
+    QTest::newRow("type that a package lacks")
+        << QByteArray("package p; endpackage module a(input p::t x); endmodule\n")
+        << "syntax error, unexpected IDENTIFIER, expecting TYPE-IDENTIFIER" + typeRemedy;
+    QTest::newRow("type of a port") << QByteArray("module a(input p::t x); endmodule\n")
+                                    << "syntax error, unexpected IDENTIFIER, expecting TYPE-IDENTIFIER" + typeRemedy;
+    QTest::newRow("type of a variable") << QByteArray("module a(input x); p::t y; endmodule\n")
+                                        << "syntax error, unexpected IDENTIFIER, expecting TYPE-IDENTIFIER" +
+                                               typeRemedy;
+    QTest::newRow("function") << QByteArray("module a(input x); wire y = p::f(x); endmodule\n")
+                              << "Internal Error: Bad package link" + remedy;
+}
+
 void TestNetlistMessages::missingPackageTellsTheRemedy()
 {
-    const probe::Result imported = build("module a import p::*; (input x); endmodule\n");
-    QCOMPARE(imported.errors(),
-             QStringList("ERROR: " + dir->filePath("design.sv") +
-                         ":1: Importing from missing package 'p' (add the file that declares the package to the "
-                         "project)"));
-    const probe::Result scoped = build("module a (input x);\nwire [p::W-1:0] y;\nendmodule\n");
-    QVERIFY2(scoped.errors().value(0).endsWith("(add the file that declares the package to the project)"),
-             qPrintable(scoped.errors().value(0)));
+    QFETCH(QByteArray, source);
+    QFETCH(QString, message);
+    QCOMPARE(build(source).errors(), QStringList("ERROR: " + dir->filePath("design.sv") + ":1: " + message));
+}
+
+void TestNetlistMessages::failureInsideOfTheEngineTellsTheRemedy()
+{
+    const probe::Result result =
+        build("\ninterface i; logic v; endinterface\nmodule a(input x); wire y = i::v; endmodule\n");
+    QVERIFY(!result.netlist);
+    QCOMPARE(result.errors().size(), 1);
+    QVERIFY2(result.errors().first().startsWith("ERROR: " + dir->filePath("design.sv") + ":2: Internal Error: ") &&
+                 result.errors().first().endsWith(" (the Verilog engine failed here; set the top module, or disable "
+                                                  "the file that it names)"),
+             qPrintable(result.errors().first()));
 }
 
 void TestNetlistMessages::interfacePortOfTheTopTellsTheRemedy()
