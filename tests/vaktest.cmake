@@ -6,7 +6,7 @@
 #   FAKES   puts the scripted doubles of IdeCore, OVTE, netcatcher and QUtility first, under the same SONAME; the program
 #           ends at once when it finds the real ones.
 #   XVFB    runs it on an X server of its own instead; without xvfb-run the test fails.
-# No test finds a cache of netlists that another one, or the user, left: the folder for caches cannot exist.
+# No test finds a cache of netlists that another one, or the user, left, whoever starts it (no_user_cache).
 
 function(vak_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "MODULE;FAKES;XVFB" "" "SOURCES;LINK")
@@ -22,7 +22,7 @@ function(vak_test name)
         target_link_libraries(${name} PRIVATE RtlVakIns VakUtils Device ExtSys test_support)
     endif()
     set_target_properties(${name} PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "${rpath}")
-    target_link_libraries(${name} PRIVATE ${arg_LINK} host_api Qt5::Test)
+    target_link_libraries(${name} PRIVATE ${arg_LINK} no_user_cache host_api Qt5::Test)
     target_compile_definitions(${name} PRIVATE VAK_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
     if(arg_XVFB)
         # Without drivers of graphics cards and the desktop's bus, which the tests do not need and which leak.
@@ -33,5 +33,5 @@ function(vak_test name)
         add_test(NAME ${name} COMMAND ${name})
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
-        "QT_QPA_PLATFORM=${platform};XDG_CACHE_HOME=/dev/null/none;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp;UBSAN_OPTIONS=print_stacktrace=1")
+        "QT_QPA_PLATFORM=${platform};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QtTest>
 
 #include <functional>
@@ -30,6 +31,7 @@ class TestNetlistCache : public QObject
 private slots:
     void init();
 
+    void testsDoNotUseTheUsersCache();
     void findsWhatWasStored();
     void keyTellsDescriptionsApart();
     void readerVersionFollowsTheSources();
@@ -88,6 +90,11 @@ static void setAge(const QString &path, int seconds)
 void TestNetlistCache::init()
 {
     dir = std::make_unique<support::TempDir>();
+}
+
+void TestNetlistCache::testsDoNotUseTheUsersCache()
+{
+    QVERIFY(!QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)));
 }
 
 void TestNetlistCache::findsWhatWasStored()
