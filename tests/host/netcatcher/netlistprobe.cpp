@@ -4,6 +4,7 @@
 #include "netlistprobe.h"
 
 #include "support/fakelandlock.h"
+#include <QFile>
 
 namespace probe {
 
@@ -18,6 +19,13 @@ NETCATCHER::DesignSources sources(const QStringList &paths, const QString &top)
 QString dataFile(const QString &name)
 {
     return QStringLiteral(VAK_TEST_DATA "/hdl/") + name;
+}
+
+QStringList goldenRows(const QString &design)
+{
+    QFile file(dataFile(design + QStringLiteral(".nets")));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)
+                                          : QStringList();
 }
 
 QStringList Result::errors() const

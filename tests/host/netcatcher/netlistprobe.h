@@ -34,5 +34,7 @@ Result build(const NETCATCHER::DesignSources &sources, const NETCATCHER::EngineL
 
 /// Buses and then single nets, named in full, unusable ones with a tabulator and "unusable" behind: the golden form.
 QStringList rows(const NETCATCHER::RtlNetlist &netlist);
+/// The rows that one of the tests' own designs should have, from the list beside it; none when there is no list.
+QStringList goldenRows(const QString &design);
 
 } // namespace probe
