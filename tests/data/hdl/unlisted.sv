@@ -88,5 +88,9 @@ module unlisted
   endclocking
   either u_either (inner, a[0], a[1]);
   loop u_loop (.a(a), .y(y));
+  // synthesis translate_off
+  logic simulated;
+  assign simulated = a[0];
+  // synthesis translate_on
   hidden u_hidden (.a({inner, always_one}), .y());
 endmodule
