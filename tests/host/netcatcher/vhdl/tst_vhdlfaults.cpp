@@ -34,6 +34,7 @@ private slots:
     void endlessRecursionIsAnError();
     void resultCutOffAnywhereIsAnError();
     void secondOpeningNeedsNoEngine();
+    void designsWithFilesAreNotKept();
     void temporaryFolderIsRemoved();
 
 private:
@@ -228,6 +229,22 @@ void TestVhdlFaults::secondOpeningNeedsNoEngine()
     QCOMPARE(probe::rows(*first.netlist), QStringList({"X", "Y"}));
     QCOMPARE(probe::rows(*second.netlist), QStringList({"X", "Y"}));
     QCOMPARE(changed.messages, QStringList("ERROR: The VHDL engine failed without saying why."));
+}
+
+void TestVhdlFaults::designsWithFilesAreNotKept()
+{
+    const QByteArray before = qgetenv("XDG_CACHE_HOME");
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(dir->filePath("cache")));
+    const QString flag = dir->filePath("failing");
+    installEngine("[ -e '" + flag.toUtf8() + "' ] && exit 3\nexec " + engine.toUtf8() + " \"$@\"\n");
+    const QByteArray source = QByteArray("use std.textio.all;\n") + plain;
+    const auto withFile = QByteArray(source).replace("signal Y", "file F : text; signal Y");
+    const probe::Result first = build(withFile);
+    dir->write("failing", {});
+    const probe::Result second = build(withFile);
+    before.isNull() ? qunsetenv("XDG_CACHE_HOME") : qputenv("XDG_CACHE_HOME", before);
+    QVERIFY2(first.netlist, qPrintable(first.messages.join('\n')));
+    QCOMPARE(second.messages, QStringList("ERROR: The VHDL engine failed without saying why."));
 }
 
 void TestVhdlFaults::temporaryFolderIsRemoved()
