@@ -14,17 +14,7 @@
 
 namespace NETCATCHER {
 
-namespace {
-
-struct Advice
-{
-    const char *text;   ///< what the engine's message holds
-    const char *advice; ///< what to do about it
-};
-
-} // namespace
-
-static const Advice advices[] = {
+static const Advice verilogAdvices[] = {
     {"Cannot find include file", "add the folder of that file to the include paths"},
     {"Importing from missing package", "add the file that declares the package to the project"},
     {"expecting TYPE-IDENTIFIER", "add the file that declares the package to the project, or correct the type's name"},
@@ -136,16 +126,21 @@ QVector<EngineMessage> parseEngineMessages(const QByteArray &output)
 
 QString userMessage(const EngineMessage &message, const PrivateFolder &folder)
 {
+    return userMessage(message, folder, verilogAdvices, std::size(verilogAdvices));
+}
+
+QString userMessage(const EngineMessage &message, const PrivateFolder &folder, const Advice *advices, std::size_t count)
+{
     QString result = message.isError ? QStringLiteral("ERROR: ") : QStringLiteral("WARNING: ");
     if (!message.file.isEmpty())
         result +=
             folder.userPath(message.file) + QLatin1Char(':') + QString::number(message.line) + QLatin1String(": ");
     result += folder.withUserPaths(message.text);
-    for (const Advice &each : advices) {
-        if (message.isError && message.text.contains(QLatin1String(each.text)))
-            return result + QLatin1String(" (") + QLatin1String(each.advice) + QLatin1Char(')');
-    }
-    return result;
+    const Advice *const end = advices + count;
+    const Advice *const found = std::find_if(advices, end, [&message](const Advice &each) {
+        return message.isError && message.text.contains(QLatin1String(each.text));
+    });
+    return found == end ? result : result + QLatin1String(" (") + QLatin1String(found->advice) + QLatin1Char(')');
 }
 
 /// The first line of what a program said that is not in the form of the engine's messages: the system's own, mostly.

@@ -13,16 +13,6 @@
 
 namespace NETCATCHER {
 
-namespace {
-
-struct Advice
-{
-    const char *text;   ///< what the engine's message holds
-    const char *advice; ///< what to do about it
-};
-
-} // namespace
-
 static const Advice advices[] = {
     {"cannot find resource library", "add the files of that library to the project, and name the library with them"},
     {"not found in library", "add the file that declares it to the project, in that library"},
@@ -155,18 +145,10 @@ static bool isAboutTypes(const EngineMessage &message)
 
 QString ghdlUserMessage(const EngineMessage &message, const PrivateFolder &folder)
 {
-    QString result = message.isError ? QStringLiteral("ERROR: ") : QStringLiteral("WARNING: ");
-    if (!message.file.isEmpty())
-        result +=
-            folder.userPath(message.file) + QLatin1Char(':') + QString::number(message.line) + QLatin1String(": ");
+    EngineMessage shown = message;
     if (isAboutTypes(message))
-        return result + QLatin1String(untoldTypes);
-    result += folder.withUserPaths(message.text);
-    for (const Advice &each : advices) {
-        if (message.isError && message.text.contains(QLatin1String(each.text)))
-            return result + QLatin1String(" (") + QLatin1String(each.advice) + QLatin1Char(')');
-    }
-    return result;
+        shown.text = QLatin1String(untoldTypes);
+    return userMessage(shown, folder, advices, std::size(advices));
 }
 
 QString ghdlFailureMessage(const EngineResult &result, const EngineLimits &limits, bool hasErrors)
