@@ -9,7 +9,8 @@
 
 namespace RTLVAK {
 
-/// `soc: 412 nets to choose from (300 single, 112 buses), 3,120 bits`: one line for people about the design below `top`.
+/// `soc: 412 nets to choose from (300 single, 112 buses), 3,120 bits`: one line for people about the design below
+/// `top`.
 QString countsLine(const QString &top, const NETCATCHER::NetCounts &counts);
 
 } // namespace RTLVAK

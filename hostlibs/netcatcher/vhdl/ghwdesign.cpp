@@ -60,12 +60,6 @@ std::vector<quint32> GhwDesign::leavesOf(const GhwSignal &signal) const
     return leaves;
 }
 
-bool GhwDesign::isBitVector(int type) const
-{
-    const GhwType &array = types[size_t(type)];
-    return array.kind == GhwType::Array && array.dimensions.size() == 1 && types[size_t(array.element)].isBit();
-}
-
 QByteArray GhwDesign::indexTextOf(int type, qint64 value) const
 {
     const QVector<QByteArray> &literals = types[size_t(type)].literals;

@@ -123,8 +123,6 @@ struct GhwDesign
 
     /// The numbers of a signal's leaves, in order.
     std::vector<quint32> leavesOf(const GhwSignal &signal) const;
-    /// Whether it is an array of one index and of elements that are one net each.
-    bool isBitVector(int type) const;
     /// A value as the source writes it: a literal for an enumeration, else the number.
     QByteArray indexTextOf(int type, qint64 value) const;
 };

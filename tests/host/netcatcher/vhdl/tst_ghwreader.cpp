@@ -24,8 +24,6 @@ private slots:
     void aliasesAreNoSignals();
     void scopes();
     void portsShareTheNumbersOfWhatTheyAreConnectedTo();
-    void bitVectors_data();
-    void bitVectors();
     void lengths_data();
     void lengths();
     void encodedBits_data();
@@ -153,29 +151,6 @@ void TestGhwReader::portsShareTheNumbersOfWhatTheyAreConnectedTo()
     QCOMPARE(whole.size(), size_t(8));
     // bus_a(2 to 6)
     QVERIFY(m_scopes.leavesOf(*port) == std::vector<quint32>(whole.begin() + 2, whole.begin() + 7));
-}
-
-void TestGhwReader::bitVectors_data()
-{
-    QTest::addColumn<bool>("isVector");
-    QTest::newRow("a_down") << true;
-    QTest::newRow("a_null") << true;
-    QTest::newRow("a_unsigned") << true;
-    QTest::newRow("a_tally") << true;
-    QTest::newRow("a_grid") << false;
-    QTest::newRow("a_bytes") << false;
-    QTest::newRow("s_bit") << false;
-    QTest::newRow("s_int") << false;
-    QTest::newRow("r_header") << false;
-    QTest::newRow("r_array") << false;
-}
-
-void TestGhwReader::bitVectors()
-{
-    const GhwSignal *signal = probe::findSignal(m_types, QTest::currentDataTag());
-    QVERIFY(signal);
-    QFETCH(bool, isVector);
-    QCOMPARE(m_types.isBitVector(signal->type), isVector);
 }
 
 void TestGhwReader::lengths_data()
