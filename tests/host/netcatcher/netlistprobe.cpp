@@ -28,6 +28,19 @@ QStringList goldenRows(const QString &design)
                                           : QStringList();
 }
 
+QStringList namesNotFound(const NETCATCHER::RtlNetlist &netlist)
+{
+    QList<NETCATCHER::RtlNet *> nets = netlist.topHierarchy()->singleNetsIncludeSub();
+    for (const NETCATCHER::RtlNetBus *bus : netlist.topHierarchy()->netbusesIncludeSub())
+        nets += bus->nets();
+    QStringList names;
+    for (const NETCATCHER::RtlNet *net : qAsConst(nets)) {
+        if (netlist.findNet(net->fullPathName()) != net)
+            names.append(net->fullPathName());
+    }
+    return names;
+}
+
 QStringList Result::errors() const
 {
     return messages.filter(QRegExp("^ERROR"));

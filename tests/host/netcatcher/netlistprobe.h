@@ -36,5 +36,7 @@ Result build(const NETCATCHER::DesignSources &sources, const NETCATCHER::EngineL
 QStringList rows(const NETCATCHER::RtlNetlist &netlist);
 /// The rows that one of the tests' own designs should have, from the list beside it; none when there is no list.
 QStringList goldenRows(const QString &design);
+/// The full names of single nets and bits by which the netlist finds another net, or none.
+QStringList namesNotFound(const NETCATCHER::RtlNetlist &netlist);
 
 } // namespace probe
